@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+#
+# Finds the toolkit in the release that PAYCARD_QT_VERSION names. Gives
+#   PAYCARD_QT             package and prefix of its targets
+#   PAYCARD_QT_LIBRARIES   what the library links
+#   paycard_add_resources  compiles a resource file: <variable> <file>
+#
+# The reference host and the tests need Qt 5 or 6; with Qt 4 only the library is built.
+
+set(PAYCARD_QT Qt${PAYCARD_QT_VERSION})
+
+if(PAYCARD_QT_VERSION EQUAL 4)
+    find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui QtXml)
+    set(PAYCARD_QT_LIBRARIES Qt4::QtGui Qt4::QtXml)
+    set(PAYCARD_BUILD_HOST OFF)
+    macro(paycard_add_resources variable file)
+        qt4_add_resources(${variable} ${file})
+    endmacro()
+elseif(PAYCARD_QT_VERSION EQUAL 5)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Xml)
+    set(PAYCARD_QT_LIBRARIES Qt5::Widgets Qt5::Xml)
+    macro(paycard_add_resources variable file)
+        qt5_add_resources(${variable} ${file})
+    endmacro()
+elseif(PAYCARD_QT_VERSION EQUAL 6)
+    find_package(Qt6 REQUIRED COMPONENTS Core Gui Widgets Xml)
+    set(PAYCARD_QT_LIBRARIES Qt6::Widgets Qt6::Xml)
+    macro(paycard_add_resources variable file)
+        qt6_add_resources(${variable} ${file})
+    endmacro()
+else()
+    message(FATAL_ERROR "PAYCARD_QT_VERSION must be 6, 5 or 4, not \"${PAYCARD_QT_VERSION}\"")
+endif()

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "common/dialog_about.h"
+
+#include "ui_dialog_about.h"
+
+#include <QItemDelegate>
+#include <QPixmap>
+
+namespace {
+
+const wchar_t *const GuiName = L"ОРМА: Драйвер интерфейса";
+const wchar_t *const GuiVersion = L"9.11.2.6032";
+
+struct OutsideLibrary
+{
+    const char *name;
+    const char *version;
+    const char *license;
+    const char *link;
+};
+
+const char *const ZlibLicense = "https://www.zlib.net/zlib_license.html";
+
+// The four of one licence show its one name, and one library has none, on purpose.
+const OutsideLibrary OutsideLibraries[] = {
+    {"Qt", "4.8.7", "LGPL", "https://www.gnu.org/licenses/lgpl-3.0.html"},
+    {"CxImage", "7.0.1", "Zlib/libpng", ZlibLicense},
+    {"libpng", "1.6.10", "Zlib/libpng", ZlibLicense},
+    {"zlib", "1.2.8", "Zlib/libpng", ZlibLicense},
+    {"tinyxml2", "1.0.9", "Zlib/libpng", ZlibLicense},
+    {"Tesra", "94.10.6", "", ""},
+    {"libusb", "1.0.19", "LGPLv2", "https://www.gnu.org/licenses/old-licenses/lgpl-2.1.html"},
+    {"cURL", "7.32.0", "MIT", "https://opensource.org/license/mit"},
+    {"OpenSSL", "1.0.1e", "OpenSSL", "https://www.openssl.org/source/license-openssl-ssleay.txt"},
+};
+
+/// Draws rows without the frame of the focus.
+class NoFocusItemDelegate : public QItemDelegate
+{
+public:
+    using QItemDelegate::QItemDelegate;
+
+protected:
+    void drawFocus(QPainter * /*painter*/, const QStyleOptionViewItem & /*option*/,
+                   const QRect & /*rect*/) const override
+    {
+    }
+};
+
+void setNameAndVersion(QLabel *label, const QString &name, const QString &version)
+{
+    label->setText(name.isEmpty() || version.isEmpty() ? name : name + QLatin1Char('\n') + version);
+}
+
+} // namespace
+
+DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion, QWidget *parent)
+    : DialogAbout(driverName, driverVersion, QString::fromWCharArray(GuiName),
+                  QString::fromWCharArray(GuiVersion), parent)
+{
+    ui->tree_license->setItemDelegate(new NoFocusItemDelegate(ui->tree_license));
+    ui->header_container->setStyleSheet(tr("#header_container{background-color: rgb(255, 255, 255);}"));
+}
+
+DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion, const QString &guiName,
+                         const QString &guiVersion, QWidget *parent)
+    : NoHelpButtonDialog(parent), ui(new Ui_DialogAbout)
+{
+    ui->setupUi(this);
+    setPictures();
+    setDriverName(driverName, driverVersion);
+    setGuiName(guiName, guiVersion);
+    setLicenseInfo();
+}
+
+DialogAbout::~DialogAbout()
+{
+    delete ui;
+}
+
+void DialogAbout::setDriverName(const QString &name, const QString &version)
+{
+    setNameAndVersion(ui->label_driver, name, version);
+}
+
+void DialogAbout::setGuiName(const QString &name, const QString &version)
+{
+    setNameAndVersion(ui->label_gui, name, version);
+}
+
+void DialogAbout::setPictures()
+{
+    setWindowIcon(QIcon(QString::fromLatin1(":/images/icon_info.png")));
+    const QPixmap logo(QString::fromLatin1(":/images/orma_logo_small.bmp"));
+    if (!logo.isNull()) {
+        ui->label_pict->setPixmap(logo);
+        ui->label_pict->setMaximumSize(logo.size());
+    }
+}
+
+void DialogAbout::setLicenseInfo()
+{
+    ui->tree_license->clear();
+    for (const OutsideLibrary &library : OutsideLibraries) {
+        const QStringList columns = {QString::fromLatin1(library.name), QString::fromLatin1(library.version)};
+        QTreeWidgetItem *item = new QTreeWidgetItem(ui->tree_license, columns);
+        QLabel *license =
+            new QLabel(QString::fromLatin1("<a href=\"%1\">%2</a>")
+                           .arg(QString::fromLatin1(library.link), QString::fromLatin1(library.license)));
+        license->setOpenExternalLinks(true);
+        ui->tree_license->setItemWidget(item, 2, license);
+    }
+}
+
+void DialogAbout::on_bbox_accepted()
+{
+    accept();
+}

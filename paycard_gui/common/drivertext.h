@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef DRIVERTEXT_H
+#define DRIVERTEXT_H
+
+#include <algorithm>
+#include <vector>
+
+/// How a text is fetched from a driver, which is not trusted with memory.
+namespace DriverText {
+
+/// Longest text that a driver is believed to have, in characters. A larger length is a fault of the driver:
+/// such a text counts as missing, where honouring it would take gigabytes.
+const int MaxLength = 1 << 26;
+
+/// The lengths that the driver reported: in its first answer (0 for an incredible one) and in its last.
+struct Lengths
+{
+    int first;
+    int last;
+};
+
+/// Has `get(characters, size)` fill the buffer, which has its initial size, and once more when the text did
+/// not fit: then the buffer grows to the length reported plus `extra`. What the driver does not write is
+/// zero.
+template <class Get>
+Lengths read(std::vector<wchar_t> &buffer, int extra, Get get)
+{
+    std::fill(buffer.begin(), buffer.end(), L'\0');
+    const int size = static_cast<int>(buffer.size());
+    const int length = get(buffer.data(), size);
+    if (length > MaxLength) {
+        return {0, 0};
+    }
+    if (length <= size) {
+        return {length, length};
+    }
+    buffer.assign(static_cast<std::size_t>(length + extra), L'\0');
+    return {length, get(buffer.data(), length + extra)};
+}
+
+} // namespace DriverText
+
+#endif

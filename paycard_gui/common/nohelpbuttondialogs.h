@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef NOHELPBUTTONDIALOGS_H
+#define NOHELPBUTTONDIALOGS_H
+
+#include "common/paycard_export.h"
+#include "common/qtcompat.h"
+
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+
+#include <exception>
+
+/// Base of every dialog: no context-help button, and failures in slots that reach the caller of exec().
+class PAYCARD_EXPORT NoHelpButtonDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit NoHelpButtonDialog(QWidget *parent = nullptr);
+    ~NoHelpButtonDialog() override;
+
+    /// Runs the dialog modally. What a slot kept with guarded() is rethrown here, once the event loop has
+    /// returned; if it was kept before, during construction, the dialog is not shown at all. A dialog that
+    /// its parent deletes meanwhile gives Rejected.
+    int exec() PAYCARD_OVERRIDES_EXEC;
+
+protected:
+    /// Runs the body of a slot. Exceptions must not unwind through the toolkit's event loop, which ends the
+    /// process: one of any type is kept, the dialog ends, and exec() throws it on.
+    template <class Action>
+    void guarded(Action action)
+    {
+        try {
+            action();
+        } catch (...) {
+            endWith(std::current_exception());
+        }
+    }
+
+private:
+    void endWith(std::exception_ptr failure);
+};
+
+/// The toolkit's message boxes without the context-help button. The box is modal; the button that closed it
+/// is returned, NoButton if the box went with its parent.
+class PAYCARD_EXPORT NoHelpButtonMessageBox
+{
+public:
+    NoHelpButtonMessageBox() = delete;
+
+    static QMessageBox::StandardButton
+    information(QWidget *parent, const QString &title, const QString &text,
+                QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+                QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    static QMessageBox::StandardButton
+    warning(QWidget *parent, const QString &title, const QString &text,
+            QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+            QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    static QMessageBox::StandardButton
+    question(QWidget *parent, const QString &title, const QString &text,
+             QMessageBox::StandardButtons buttons = QMessageBox::StandardButtons(QMessageBox::Yes |
+                                                                                 QMessageBox::No),
+             QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    /// With an OK button only.
+    static QMessageBox::StandardButton critical(QWidget *parent, const QString &title, const QString &text);
+};
+
+/// The toolkit's input dialogs without the context-help button. `ok`, where given, tells whether the dialog
+/// was accepted, but see getInt() and getDouble().
+class PAYCARD_EXPORT NoHelpButtonInputDialog
+{
+public:
+    NoHelpButtonInputDialog() = delete;
+
+    /// The entered text, null when cancelled.
+    static QString getText(QWidget *parent, const QString &title, const QString &label,
+                           QLineEdit::EchoMode echo, const QString &text, bool *ok = nullptr);
+    /// The entered number, 0 when cancelled. `ok` is set to false when cancelled and otherwise left alone.
+    /// The limits and the value do not reach the integer input, which keeps the range 0 to 99 and starts at
+    /// 0: the callers in the field count on it.
+    static int getInt(QWidget *parent, const QString &title, const QString &label, bool *ok, int value,
+                      int minimum, int maximum);
+    /// The dialog's text value as a number, which is `value` with 6 significant digits whatever the number
+    /// input shows; 0.0 when cancelled. `ok` tells whether the text was a number.
+    static double getDouble(QWidget *parent, const QString &title, const QString &label, bool *ok,
+                            double value, double minimum, double maximum);
+};
+
+/// The toolkit's file dialogs without the context-help button. Each returns the chosen path, null when
+/// cancelled.
+class PAYCARD_EXPORT NoHelpButtonFileDialog
+{
+public:
+    NoHelpButtonFileDialog() = delete;
+
+    /// `selectedFilter`, where given, names the filter to start with and gets the one in use at the end.
+    static QString getOpenFileName(QWidget *parent = nullptr, const QString &caption = QString(),
+                                   const QString &directory = QString(), const QString &filter = QString(),
+                                   QString *selectedFilter = nullptr,
+                                   QFileDialog::Options options = QFileDialog::Options());
+    /// `directory` may name a file, which is then preselected (with a lone dot at the end when it has no
+    /// suffix). No suffix is added to the name returned.
+    static QString getSaveFileName(QWidget *parent = nullptr, const QString &caption = QString(),
+                                   const QString &directory = QString(), const QString &filter = QString(),
+                                   QString *selectedFilter = nullptr,
+                                   QFileDialog::Options options = QFileDialog::Options());
+    static QString getExistingDirectory(QWidget *parent = nullptr, const QString &caption = QString(),
+                                        const QString &directory = QString(),
+                                        QFileDialog::Options options = QFileDialog::ShowDirsOnly);
+};
+
+#endif

@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef QNOXPAYCARD_H
+#define QNOXPAYCARD_H
+
+#include "common/drivertext.h"
+#include "common/ipaycard.h"
+#include "common/paycard_export.h"
+
+#include <QByteArray>
+#include <QFutureInterface>
+#include <QObject>
+#include <QString>
+
+#include <cwchar>
+#include <exception>
+#include <vector>
+
+/// A failure with a text for people.
+class PAYCARD_EXPORT Exception : public std::exception
+{
+public:
+    Exception(const QString &message);
+    /// `text` is UTF-8.
+    Exception(const char *text);
+    Exception(const Exception &) = default;
+    Exception &operator=(const Exception &) = default;
+    ~Exception() override;
+
+    /// The message in UTF-8. The pointer is good until the next call on this object or its end.
+    const char *what() const noexcept override;
+    QString whatQString() const;
+
+private:
+    QString message;
+    mutable QByteArray narrow;
+};
+
+/// There is no driver object to ask.
+class PAYCARD_EXPORT DeviceNotFoundException : public Exception
+{
+public:
+    DeviceNotFoundException();
+    DeviceNotFoundException(const DeviceNotFoundException &) = default;
+    DeviceNotFoundException &operator=(const DeviceNotFoundException &) = default;
+    ~DeviceNotFoundException() override;
+};
+
+/// Reads values from a driver object with the interface T, which it does not own, and turns failures of the
+/// driver into exceptions. Without a driver every call that needs one throws DeviceNotFoundException.
+template <class T>
+class PAYCARD_EXPORT QNoxInterface
+{
+public:
+    typedef int (T::*IntGetter)(int *);
+    typedef int (T::*DoubleGetter)(double *);
+    typedef int (T::*TextGetter)(wchar_t *, int);
+    typedef int (T::*NamedTextGetter)(const wchar_t *, wchar_t *, int);
+
+    explicit QNoxInterface(T *object);
+    virtual ~QNoxInterface();
+
+    /// Size of the first buffer for a text, in characters: one call of the driver for a text that fits.
+    virtual int defaultBufferSize() const;
+
+    /// The driver, never null.
+    T *nox() const;
+
+    /// The number that the getter writes, 0 if it writes none. A failure of the getter raises nothing.
+    int getInt(IntGetter getter) const;
+    double getDouble(DoubleGetter getter) const;
+
+    /// The text that the getter writes up to its closing zero, or a null text. A failure of the getter raises
+    /// nothing; callers that want it raised pass `length`, which gets the getter's result, to raiseError().
+    QString getBuff(TextGetter getter, int *length = nullptr) const;
+    /// The same for the text that belongs to a name, such as a setting's value.
+    QString getBuff(NamedTextGetter getter, const wchar_t *name, int *length = nullptr) const;
+
+    /// Takes the result of a driver's operation and returns it. Throws an Exception with the driver's own
+    /// "[code] text (detail)" when the result is negative and the driver has a result code.
+    int raiseError(int result) const;
+
+private:
+    template <class Get>
+    QString readText(Get get, int *length) const;
+
+    T *driver;
+    // Never used here; part of the layout that the family's modules share.
+    QFutureInterface<int> future;
+};
+
+extern template class PAYCARD_EXPORT QNoxInterface<NOX::PayCard::IPayCard>;
+
+/// The wrapper for payment-card drivers.
+class PAYCARD_EXPORT QNoxPaycard : public QNoxInterface<NOX::PayCard::IPayCard>
+{
+public:
+    explicit QNoxPaycard(NOX::PayCard::IPayCard *object = nullptr);
+    ~QNoxPaycard() override;
+
+    int defaultBufferSize() const override;
+};
+
+template <class T>
+QNoxInterface<T>::QNoxInterface(T *object)
+    : driver(object),
+      future(static_cast<QFutureInterfaceBase::State>(
+          QFutureInterfaceBase::Started | QFutureInterfaceBase::Finished | QFutureInterfaceBase::Canceled))
+{
+}
+
+template <class T>
+QNoxInterface<T>::~QNoxInterface()
+{
+}
+
+template <class T>
+int QNoxInterface<T>::defaultBufferSize() const
+{
+    return 1024;
+}
+
+template <class T>
+T *QNoxInterface<T>::nox() const
+{
+    if (!driver) {
+        throw DeviceNotFoundException();
+    }
+    return driver;
+}
+
+template <class T>
+int QNoxInterface<T>::getInt(IntGetter getter) const
+{
+    int value = 0;
+    (nox()->*getter)(&value);
+    return value;
+}
+
+template <class T>
+double QNoxInterface<T>::getDouble(DoubleGetter getter) const
+{
+    double value = 0.0;
+    (nox()->*getter)(&value);
+    return value;
+}
+
+template <class T>
+QString QNoxInterface<T>::getBuff(TextGetter getter, int *length) const
+{
+    T *object = nox();
+    return readText([=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); }, length);
+}
+
+template <class T>
+QString QNoxInterface<T>::getBuff(NamedTextGetter getter, const wchar_t *name, int *length) const
+{
+    T *object = nox();
+    return readText([=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); }, length);
+}
+
+template <class T>
+template <class Get>
+QString QNoxInterface<T>::readText(Get get, int *length) const
+{
+    std::vector<wchar_t> buffer(static_cast<std::size_t>(defaultBufferSize()));
+    const int reported = DriverText::read(buffer, 1, get).first;
+    if (length) {
+        *length = reported;
+    }
+    if (reported < 1) {
+        return QString();
+    }
+    return QString::fromWCharArray(buffer.data(), static_cast<int>(wcsnlen(buffer.data(), buffer.size())));
+}
+
+template <class T>
+int QNoxInterface<T>::raiseError(int result) const
+{
+    if (result >= 0) {
+        return result;
+    }
+    int code = 0;
+    nox()->getResultCode(&code);
+    if (code == 0) {
+        return result;
+    }
+    // One arg() call for the texts: a "%1" inside a driver's text is text.
+    const QString text = getBuff(&T::getResultDescription);
+    const QString base = QObject::tr("[%1] %2").arg(QString::number(code), text);
+    QString detail;
+    if (getInt(&T::getErrorDetail) != 0) {
+        detail = getBuff(&T::getErrorDetailDescription);
+    }
+    throw Exception(detail.isEmpty() ? base : QObject::tr("%1 (%2)").arg(base, detail));
+}
+
+#endif

@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "paysystemdialog.h"
+
+#include "arcus2lumipaysettingsdialog.h"
+#include "arcus2ormasettingsdialog.h"
+#include "arcus2settingsdialog.h"
+#include "common/dialog_about.h"
+#include "common/qt_utils.h"
+#include "common/scopeddialog.h"
+#include "cyberplatsettingsdialog.h"
+#include "inpaslumipaysettingsdialog.h"
+#include "inpasormasettingsdialog.h"
+#include "operatorlistdialog.h"
+#include "sberbanklumipaysettingsdialog.h"
+#include "sberbankormasettingsdialog.h"
+#include "slipdialog.h"
+#include "ui_paysystemdialog.h"
+
+#include <QCloseEvent>
+#include <QDir>
+
+#include <iterator>
+
+using NOX::PayCard::IPayCard;
+
+namespace {
+
+const QString ProtocolKey = QString::fromWCharArray(L"Protocol");
+const QString PathACKey = QString::fromWCharArray(L"PathAC");
+const QString TimeoutKey = QString::fromWCharArray(L"Timeout");
+
+const char *const DefaultProtocol = "2";
+/// Version that documents for the driver are stamped with.
+const int DocumentVersion = 2;
+
+} // namespace
+
+/// What the properties offer for a protocol.
+struct PaySystemDialog::Protocol
+{
+    bool directory;
+    bool timeout;
+    bool slip;
+    bool operators;
+    /// Opens the protocol's own settings; null where it has none.
+    void (PaySystemDialog::*editParameters)();
+};
+
+const PaySystemDialog::Protocol &PaySystemDialog::protocol(int number)
+{
+    static const Protocol unknown = {false, false, false, false, nullptr};
+    static const Protocol protocols[] = {
+        // directory, time-out, slip, operators, parameters
+        /* 0 */ {true, true, true, false, nullptr},
+        /* 1 */ unknown,
+        /* 2 */ {true, true, true, true, &PaySystemDialog::edit<CyberPlatSettingsDialog>},
+        /* 3 */ unknown,
+        /* 4 */ {true, false, true, false, nullptr},
+        /* 5 */ unknown,
+        /* 6 */ {true, true, true, false, &PaySystemDialog::edit<Arcus2SettingsDialog>},
+        /* 7 */ {true, true, true, false, nullptr},
+        /* 8 */ {true, false, true, false, &PaySystemDialog::edit<InpasLumiPaySettingsDialog>},
+        /* 9 */ {true, false, true, false, &PaySystemDialog::edit<Arcus2LumiPaySettingsDialog>},
+        /* 10 */ {true, false, true, false, &PaySystemDialog::edit<SberbankLumiPaySettingsDialog>},
+        /* 11 */ {true, false, true, false, &PaySystemDialog::edit<SberbankOrmaSettingsDialog>},
+        /* 12 */ {true, false, true, false, &PaySystemDialog::edit<InpasOrmaSettingsDialog>},
+        /* 13 */ {true, false, true, false, &PaySystemDialog::edit<Arcus2OrmaSettingsDialog>},
+    };
+    return number >= 0 && number < static_cast<int>(std::size(protocols)) ? protocols[number] : unknown;
+}
+
+PaySystemDialog::PropertiesShown::PropertiesShown(const QNoxPaycard &wrapper) : driver(wrapper)
+{
+    driver.raiseError(driver.nox()->setPropertiesShown(1));
+}
+
+PaySystemDialog::PropertiesShown::~PropertiesShown()
+{
+    try {
+        end();
+    } catch (...) {
+        // Something else has failed before, or nobody is left to hear of it.
+    }
+}
+
+void PaySystemDialog::PropertiesShown::end()
+{
+    if (shown) {
+        shown = false;
+        driver.raiseError(driver.nox()->setPropertiesShown(0));
+    }
+}
+
+PaySystemDialog::PaySystemDialog(IPayCard *object, QWidget *parent)
+    : NoHelpButtonDialog(parent), ui(new Ui_PaySystemDialog), driver(object), propertiesShown(driver)
+{
+    ui->setupUi(this);
+    connect(ui->lePathACDialog, SIGNAL(textChanged(QString)), SLOT(checkState()));
+    on_cmbProtocol_currentIndexChanged(ui->cmbProtocol->currentIndex());
+    loadSettings();
+    adjustSize();
+}
+
+PaySystemDialog::~PaySystemDialog() = default;
+
+int PaySystemDialog::exec()
+{
+    const QPointer<PaySystemDialog> self(this);
+    const int code = NoHelpButtonDialog::exec();
+    if (self) {
+        propertiesShown.end();
+    }
+    return code;
+}
+
+void PaySystemDialog::setError(const QString &text)
+{
+    ui->lbError->setText(text);
+}
+
+void PaySystemDialog::resetError()
+{
+    ui->lbError->clear();
+}
+
+void PaySystemDialog::loadSettings()
+{
+    int result = 0;
+    settings.fromXml(driver.getBuff(&IPayCard::getSettings, &result));
+    driver.raiseError(result);
+    loadedXml = settings.toXml(0);
+
+    const QString protocols =
+        driver.getBuff(&IPayCard::getSettingChoices, ProtocolKey.toStdWString().c_str(), &result);
+    driver.raiseError(result);
+    strToComboBox(ui->cmbProtocol, protocols, false);
+
+    QComboSelectIfCan(ui->cmbProtocol, settings.get(ProtocolKey).toString(), QLatin1String(DefaultProtocol));
+    ui->lePathACDialog->setText(settings.get(PathACKey).toString());
+    ui->spinTimeout->setValue(settings.get(TimeoutKey).toInt());
+}
+
+void PaySystemDialog::saveSettings()
+{
+    settings.set(PathACKey, ui->lePathACDialog->text());
+    // With no protocol chosen (the driver lists none) there is no number that could replace the stored one.
+    if (ui->cmbProtocol->currentIndex() >= 0) {
+        settings.set(ProtocolKey, cmbData(ui->cmbProtocol));
+    }
+    settings.set(TimeoutKey, ui->spinTimeout->value());
+    writeToDriver(settings.toXml(DocumentVersion));
+}
+
+void PaySystemDialog::writeToDriver(const QString &xml)
+{
+    driver.raiseError(driver.nox()->setSettings(xml.toStdWString().c_str()));
+}
+
+/// The driver's document is rewritten on this way out, too, even when nothing was changed.
+void PaySystemDialog::cancel()
+{
+    writeToDriver(loadedXml);
+    NoHelpButtonDialog::reject();
+}
+
+/// Runs `action`; what it fails with is shown, and the dialog stays open.
+template <class Action>
+void PaySystemDialog::reportingFailure(Action action)
+{
+    guarded([&] {
+        try {
+            action();
+        } catch (const std::exception &failure) {
+            setError(QString::fromUtf8(failure.what()));
+        }
+    });
+}
+
+/// Opens a sub-dialog on a copy of the settings, which replaces them only if the sub-dialog is accepted.
+template <class Dialog>
+void PaySystemDialog::edit()
+{
+    guarded([this] {
+        QNoxSettings copy = settings;
+        const ScopedDialog<Dialog> dialog(copy, this);
+        if (dialog->exec() == Accepted) {
+            settings = copy;
+        }
+    });
+}
+
+void PaySystemDialog::on_pbtnSlip_clicked()
+{
+    edit<SlipDialog>();
+}
+
+void PaySystemDialog::on_pbtnSettingsButton_clicked()
+{
+    if (const auto editParameters = protocol(cmbData(ui->cmbProtocol)).editParameters) {
+        (this->*editParameters)();
+    }
+}
+
+void PaySystemDialog::on_pbtnOperators_clicked()
+{
+    if (protocol(cmbData(ui->cmbProtocol)).operators) {
+        edit<OperatorListDialog>();
+    }
+}
+
+void PaySystemDialog::on_pbtnPathACDialog_clicked()
+{
+    const QPointer<PaySystemDialog> self(this);
+    const QString path = NoHelpButtonFileDialog::getExistingDirectory(
+        this, tr("Укажите каталог обмена с АС"), ui->lePathACDialog->text(), QFileDialog::ShowDirsOnly);
+    if (self && !path.isEmpty()) {
+        ui->lePathACDialog->setText(path);
+    }
+}
+
+void PaySystemDialog::on_cmbProtocol_currentIndexChanged(int /*index*/)
+{
+    const Protocol &current = protocol(cmbData(ui->cmbProtocol));
+    ui->lePathACDialog->setEnabled(current.directory);
+    ui->pbtnPathACDialog->setEnabled(current.directory);
+    ui->spinTimeout->setEnabled(current.timeout);
+    ui->pbtnSettingsButton->setEnabled(current.editParameters != nullptr);
+    ui->pbtnOperators->setEnabled(current.operators);
+    ui->pbtnSlip->setEnabled(current.slip);
+}
+
+/// The directory must exist for every protocol. The empty path is the working directory and passes.
+void PaySystemDialog::checkState()
+{
+    const bool exists = QDir(ui->lePathACDialog->text()).exists();
+    ui->pbtnOk->setEnabled(exists);
+    if (exists) {
+        resetError();
+    } else {
+        setError(tr("Каталог обмена с АС не существует"));
+    }
+}
+
+void PaySystemDialog::on_pbtnOk_clicked()
+{
+    reportingFailure([this] {
+        saveSettings();
+        accept();
+    });
+}
+
+void PaySystemDialog::on_pbtnCancel_clicked()
+{
+    reportingFailure([this] { cancel(); });
+}
+
+void PaySystemDialog::reject()
+{
+    on_pbtnCancel_clicked();
+}
+
+/// Closing the window cancels, too, but always closes it: a driver that refuses its own document must not
+/// keep the register in this window. The refusal reaches the host.
+void PaySystemDialog::closeEvent(QCloseEvent *event)
+{
+    if (isVisible()) {
+        guarded([this] { cancel(); });
+    }
+    event->accept();
+}
+
+void PaySystemDialog::on_pbtnAbout_clicked()
+{
+    guarded([this] {
+        const QString name = driver.getBuff(&IPayCard::getDriverName);
+        const QString version = driver.getBuff(&IPayCard::getVersion);
+        const ScopedDialog<DialogAbout> about(name, version, this);
+        about->exec();
+    });
+}

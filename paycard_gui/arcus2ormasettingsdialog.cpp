@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "arcus2ormasettingsdialog.h"
+
+#include "ui_arcus2ormasettingsdialog.h"
+
+Arcus2OrmaSettingsDialog::Arcus2OrmaSettingsDialog(QNoxSettings &document, QWidget *parent)
+    : OrmaSettingsDialog(document, parent), ui(new Ui_Arcus2OrmaSettingsDialog)
+{
+    ui->setupUi(this);
+    fillForm(ui->cmbPort, ui->stackExtSettings,
+             {
+                 usb(ui->pageUsbSettings, ui->leUsbVid, ui->leUsbPid),
+                 tty(ui->pageTtySettings, ui->leTtyFileName, ui->cmbTtyBaudrate),
+                 serial(ui->pageSerialPortSettings, ui->cmbSerialBaudrate),
+             });
+    loadSettings();
+    adjustSize();
+}
+
+Arcus2OrmaSettingsDialog::~Arcus2OrmaSettingsDialog() = default;
+
+void Arcus2OrmaSettingsDialog::on_pbtnOk_clicked()
+{
+    saveAndAccept();
+}
+
+void Arcus2OrmaSettingsDialog::on_pbtnCancel_clicked()
+{
+    reject();
+}
+
+void Arcus2OrmaSettingsDialog::on_cmbPort_currentIndexChanged(int /*index*/)
+{
+    showPage();
+}

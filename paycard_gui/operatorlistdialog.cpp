@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "operatorlistdialog.h"
+
+#include "common/qnoxsettings.h"
+#include "common/scopeddialog.h"
+#include "operatordialog.h"
+#include "operatorrecords.h"
+#include "ui_operatorlistdialog.h"
+
+namespace {
+
+/// An item shows the operator's name and carries its record.
+void setRecord(QListWidgetItem *item, const QNoxSettings &record)
+{
+    item->setText(OperatorRecords::name(record));
+    item->setData(Qt::UserRole, record.toXml(0));
+}
+
+QListWidgetItem *newItem(const QNoxSettings &record)
+{
+    QListWidgetItem *item = new QListWidgetItem;
+    setRecord(item, record);
+    return item;
+}
+
+} // namespace
+
+OperatorListDialog::OperatorListDialog(QNoxSettings &document, QWidget *parent)
+    : NoHelpButtonDialog(parent), ui(new Ui_OperatorListDialog), settings(document)
+{
+    ui->setupUi(this);
+    loadSettings();
+    enableEditing(false);
+    adjustSize();
+}
+
+OperatorListDialog::~OperatorListDialog() = default;
+
+void OperatorListDialog::loadSettings()
+{
+    const int count = OperatorRecords::count(settings);
+    for (int i = 0; i < count; ++i) {
+        ui->lwOperators->addItem(newItem(OperatorRecords::record(settings, i)));
+        settings.remove(OperatorRecords::key(i));
+    }
+}
+
+void OperatorListDialog::saveSettings()
+{
+    const int count = ui->lwOperators->count();
+    settings.set(OperatorRecords::CountKey, count);
+    for (int i = 0; i < count; ++i) {
+        settings.set(OperatorRecords::key(i), ui->lwOperators->item(i)->data(Qt::UserRole));
+    }
+}
+
+/// True when the record was edited and accepted.
+bool OperatorListDialog::edit(QNoxSettings &record)
+{
+    const ScopedDialog<OperatorDialog> dialog(record, this);
+    return dialog->exec() == Accepted;
+}
+
+void OperatorListDialog::enableEditing(bool enabled)
+{
+    ui->pbtnEdit->setEnabled(enabled);
+    ui->pbtnDelete->setEnabled(enabled);
+}
+
+void OperatorListDialog::on_pbtnAdd_clicked()
+{
+    guarded([this] {
+        QNoxSettings record;
+        if (edit(record)) {
+            ui->lwOperators->addItem(newItem(record));
+            enableEditing(true);
+        }
+    });
+}
+
+void OperatorListDialog::on_pbtnEdit_clicked()
+{
+    on_lwOperators_itemDoubleClicked(ui->lwOperators->currentItem());
+}
+
+void OperatorListDialog::on_lwOperators_itemDoubleClicked(QListWidgetItem *item)
+{
+    if (!item) {
+        return;
+    }
+    guarded([this, item] {
+        QNoxSettings record(item->data(Qt::UserRole).toString());
+        if (edit(record)) {
+            setRecord(item, record);
+        }
+    });
+}
+
+void OperatorListDialog::on_pbtnDelete_clicked()
+{
+    delete ui->lwOperators->currentItem();
+    const bool empty = ui->lwOperators->count() == 0;
+    ui->pbtnDelete->setEnabled(!empty);
+    // The wrong way round on purpose; the next change of the selection puts it right.
+    ui->pbtnEdit->setEnabled(empty);
+}
+
+void OperatorListDialog::on_pbtnOk_clicked()
+{
+    guarded([this] {
+        saveSettings();
+        accept();
+    });
+}
+
+void OperatorListDialog::on_lwOperators_itemSelectionChanged()
+{
+    enableEditing(!ui->lwOperators->selectedItems().isEmpty());
+}

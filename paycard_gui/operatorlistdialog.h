@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef OPERATORLISTDIALOG_H
+#define OPERATORLISTDIALOG_H
+
+#include "common/nohelpbuttondialogs.h"
+
+#include <memory>
+
+class QListWidgetItem;
+class QNoxSettings;
+class Ui_OperatorListDialog;
+
+/// The service operators: adds, edits and deletes their records.
+///
+/// Takes the records out of the document when it is built and puts them back only when it is accepted: it
+/// works on a copy that the caller drops otherwise.
+class OperatorListDialog : public NoHelpButtonDialog
+{
+    Q_OBJECT
+
+public:
+    OperatorListDialog(QNoxSettings &settings, QWidget *parent);
+    ~OperatorListDialog() override;
+
+    void loadSettings();
+    void saveSettings();
+
+private slots:
+    void on_pbtnAdd_clicked();
+    void on_pbtnEdit_clicked();
+    void on_pbtnDelete_clicked();
+    void on_pbtnOk_clicked();
+    void on_lwOperators_itemDoubleClicked(QListWidgetItem *item);
+    void on_lwOperators_itemSelectionChanged();
+
+private:
+    bool edit(QNoxSettings &record);
+    void enableEditing(bool enabled);
+
+    std::unique_ptr<Ui_OperatorListDialog> ui;
+    QNoxSettings &settings;
+};
+
+#endif

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "selectoperatordialog.h"
+
+#include "common/qt_utils.h"
+#include "operatorrecords.h"
+#include "ui_selectoperatordialog.h"
+
+SelectOperatorDialog::SelectOperatorDialog(NOX::PayCard::IPayCard *object, QWidget *parent)
+    : NoHelpButtonDialog(parent), ui(new Ui_SelectOperatorDialog), driver(object)
+{
+    ui->setupUi(this);
+    const QNoxSettings settings(driver.getBuff(&NOX::PayCard::IPayCard::getSettings));
+    const int count = OperatorRecords::count(settings);
+    for (int i = 0; i < count; ++i) {
+        ui->cmbOperators->addItem(OperatorRecords::name(OperatorRecords::record(settings, i)), i);
+    }
+    // Follows the size hint where setFixedSize() would keep a size from before the style's last word.
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    adjustSize();
+}
+
+SelectOperatorDialog::~SelectOperatorDialog() = default;
+
+void SelectOperatorDialog::on_pbtnOk_clicked()
+{
+    guarded([this] {
+        driver.raiseError(driver.nox()->setOperatorIndex(cmbData(ui->cmbOperators)));
+        accept();
+    });
+}
+
+void SelectOperatorDialog::on_pbtnCancel_clicked()
+{
+    reject();
+}

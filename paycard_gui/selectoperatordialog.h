@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef SELECTOPERATORDIALOG_H
+#define SELECTOPERATORDIALOG_H
+
+#include "common/nohelpbuttondialogs.h"
+#include "common/qnoxpaycard.h"
+
+#include <memory>
+
+class Ui_SelectOperatorDialog;
+
+/// Which service operator is being paid. The driver learns the index of the one that is accepted.
+class SelectOperatorDialog : public NoHelpButtonDialog
+{
+    Q_OBJECT
+
+public:
+    /// Throws DeviceNotFoundException without a driver.
+    SelectOperatorDialog(NOX::PayCard::IPayCard *driver, QWidget *parent);
+    ~SelectOperatorDialog() override;
+
+private slots:
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
+
+private:
+    std::unique_ptr<Ui_SelectOperatorDialog> ui;
+    QNoxPaycard driver;
+};
+
+#endif

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef SETTINGFIELDS_H
+#define SETTINGFIELDS_H
+
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <vector>
+
+class QComboBox;
+class QDoubleSpinBox;
+class QLineEdit;
+class QNoxSettings;
+class QSpinBox;
+
+/// One setting of a form: its key, the widget that edits it, and its value while the document has none. The
+/// widget, which must outlive the field, decides the type that is stored.
+class SettingField
+{
+public:
+    SettingField(const QString &key, QLineEdit *edit, const QString &def = QString());
+    SettingField(const QString &key, QSpinBox *spin, int def = 0);
+    SettingField(const QString &key, QDoubleSpinBox *spin, double def = 0.0);
+    /// A choice whose key is stored as a whole number. A key that is not among the choices selects `def`.
+    SettingField(const QString &key, QComboBox *combo, int def);
+    /// A choice whose key is stored as text.
+    SettingField(const QString &key, QComboBox *combo, const QString &def);
+    /// A setting with a way of its own into the form and back.
+    SettingField(const QString &key, std::function<void(const QVariant &)> show,
+                 std::function<QVariant()> value, const QVariant &def = QVariant());
+
+    void load(const QNoxSettings &settings) const;
+    void save(QNoxSettings &settings) const;
+
+private:
+    QString key;
+    std::function<void(const QVariant &)> show;
+    std::function<QVariant()> value;
+    QVariant def;
+};
+
+/// The settings of a form, which are loaded and saved in this order.
+typedef std::vector<SettingField> SettingFields;
+
+void loadFields(const SettingFields &fields, const QNoxSettings &settings);
+void saveFields(const SettingFields &fields, QNoxSettings &settings);
+
+#endif

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "slipdialog.h"
+
+#include "common/qnoxsettings.h"
+#include "ui_slipdialog.h"
+
+#include <QTextCursor>
+
+namespace {
+
+const QString SlipKey = QString::fromWCharArray(L"Slip");
+const QString HeaderKey = QString::fromWCharArray(L"Header");
+const QString FooterKey = QString::fromWCharArray(L"Footer");
+const QString HideCardKey = QString::fromWCharArray(L"HideCard");
+
+/// Shows the text as the slip has it: every line centred.
+void setCentred(QTextEdit *edit, const QString &text)
+{
+    edit->setPlainText(text);
+    QTextBlockFormat centred;
+    centred.setAlignment(Qt::AlignCenter);
+    QTextCursor all(edit->document());
+    all.select(QTextCursor::Document);
+    all.mergeBlockFormat(centred);
+}
+
+SettingField centredField(const QString &key, QTextEdit *edit)
+{
+    return {key, [=](const QVariant &stored) { setCentred(edit, stored.toString()); },
+            [=] { return edit->toPlainText(); }};
+}
+
+} // namespace
+
+SlipDialog::SlipDialog(QNoxSettings &document, QWidget *parent)
+    : SettingsDialog(document, parent), ui(new Ui_SlipDialog)
+{
+    ui->setupUi(this);
+    // The card's number is always masked: whatever is stored, the box is checked and stays so.
+    ui->checkHideCard->setEnabled(false);
+    fields = {
+        centredField(HeaderKey, ui->teHeader),
+        centredField(FooterKey, ui->teFooter),
+        {HideCardKey, [this](const QVariant &) { ui->checkHideCard->setChecked(true); },
+         [this] { return ui->checkHideCard->isChecked(); }},
+    };
+    loadSettings();
+}
+
+SlipDialog::~SlipDialog() = default;
+
+void SlipDialog::loadSettings()
+{
+    loadFields(fields, QNoxSettings(settings.get(SlipKey).toString()));
+}
+
+void SlipDialog::saveSettings()
+{
+    // From the stored document, so that what else it holds is kept.
+    QNoxSettings slip(settings.get(SlipKey).toString());
+    saveFields(fields, slip);
+    settings.set(SlipKey, slip.toXml(0));
+}
+
+void SlipDialog::on_pbtnOk_clicked()
+{
+    saveAndAccept();
+}
+
+void SlipDialog::on_pbtnCancel_clicked()
+{
+    reject();
+}

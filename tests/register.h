@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef REGISTER_H
+#define REGISTER_H
+
+#include "common/qnoxsettings.h"
+#include "modalscript.h"
+#include "paycard_gui.h"
+#include "simulateddriver.h"
+
+#include <QMessageBox>
+#include <QtTest>
+
+#include <utility>
+
+typedef int (*EntryPoint)(NOX::PayCard::IPayCard *, QWidget *);
+typedef std::vector<std::pair<QString, QVariant>> Values;
+
+/// The text of a document with these values.
+inline QString document(const Values &values)
+{
+    QNoxSettings settings;
+    for (const auto &value : values) {
+        settings.set(value.first, value.second);
+    }
+    return settings.toXml(2);
+}
+
+/// A child that the test cannot do without.
+template <class Widget>
+Widget *child(QWidget *window, const char *name)
+{
+    Widget *widget = window->findChild<Widget *>(QString::fromLatin1(name));
+    if (!widget) {
+        qFatal("%s has no %s", window->metaObject()->className(), name);
+    }
+    return widget;
+}
+
+inline ModalScript::Step press(const char *button)
+{
+    return [=](QWidget *window) {
+        if (!ModalScript::press(window, QString::fromUtf8(button))) {
+            qFatal("%s: %s cannot be pressed", window->metaObject()->className(), button);
+        }
+    };
+}
+
+inline ModalScript::Step key(Qt::Key code)
+{
+    return [=](QWidget *window) { QTest::keyClick(window, code); };
+}
+
+/// A register at work: the simulated driver, and a cashier or technician who plays the steps.
+class Register
+{
+public:
+    explicit Register(const Values &settings = {}) { driver.replaceSettings(document(settings), nullptr); }
+
+    int run(EntryPoint function, const std::vector<ModalScript::Step> &steps, QWidget *parent = nullptr)
+    {
+        ModalScript script(steps);
+        const int result = script.run([&] { return function(&driver, parent); });
+        completed = script.completed();
+        return result;
+    }
+
+    QVariant stored(const char *name) const
+    {
+        return QNoxSettings(driver.settings()).get(QString::fromLatin1(name));
+    }
+
+    int calls(const char *operation) const
+    {
+        int count = 0;
+        for (const DriverCall &call : driver.journal()) {
+            count += call.operation == QLatin1String(operation) ? 1 : 0;
+        }
+        return count;
+    }
+
+    SimulatedDriver driver;
+    /// Every step of the last run was played and no window was left over.
+    bool completed = false;
+};
+
+#endif

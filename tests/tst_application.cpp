@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "common/qt_utils.h"
+
+#include "register.h"
+
+#include <QApplication>
+
+#include <thread>
+
+/// What the library does about the application object; begins without one.
+class ApplicationTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void notForWidgets();
+    void created();
+    void otherThread();
+    void directories();
+};
+
+namespace {
+
+const EntryPoint EntryPoints[] = {AskParams, CommissionAddition, SelectOperator, ShowProperties,
+                                  ConfirmPayment};
+
+} // namespace
+
+void ApplicationTest::notForWidgets()
+{
+    QVERIFY(appDir().isEmpty());
+    int count = 1;
+    char name[] = "host";
+    char *arguments[] = {name, nullptr};
+    QCoreApplication host(count, arguments);
+    Register shop;
+    for (const EntryPoint call : EntryPoints) {
+        QCOMPARE(call(&shop.driver, nullptr), -1);
+    }
+    QVERIFY(shop.driver.journal().isEmpty());
+}
+
+void ApplicationTest::created()
+{
+    for (const EntryPoint call : EntryPoints) {
+        QCOMPARE(call(nullptr, nullptr), -1);
+    }
+    QVERIFY(!QCoreApplication::instance());
+
+    Register shop;
+    const auto closeTheQuestion = [] {
+        QWidget *question = QApplication::activeModalWidget();
+        QVERIFY(question);
+        question->close();
+    };
+    shop.driver.onCall = [&] {
+        shop.driver.onCall = nullptr;
+        QTimer::singleShot(0, qApp, closeTheQuestion);
+    };
+    QCOMPARE(ConfirmPayment(&shop.driver, nullptr), 0);
+    QCoreApplication *first = QCoreApplication::instance();
+    QVERIFY(qobject_cast<QApplication *>(first));
+    QCOMPARE(app(), first);
+    QCOMPARE(shop.run(ConfirmPayment, {key(Qt::Key_Return)}), 1);
+    QCOMPARE(QCoreApplication::instance(), first);
+}
+
+void ApplicationTest::otherThread()
+{
+    Register shop;
+    for (const EntryPoint call : EntryPoints) {
+        int result = 0;
+        std::thread([&] { result = call(&shop.driver, nullptr); }).join();
+        QCOMPARE(result, -1);
+    }
+    QVERIFY(shop.driver.journal().isEmpty());
+}
+
+void ApplicationTest::directories()
+{
+    QCOMPARE(appDir(), QCoreApplication::applicationDirPath() + "/");
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", "/home/user");
+    QCOMPARE(configDir(), QString("/home/user/.orma/drivers9/"));
+    qputenv("HOME", home);
+    QCOMPARE(configDir(), QString("/home/user/.orma/drivers9/"));
+
+    installTranslator(*app());
+    installTranslator(*app());
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Cancel"));
+    QVERIFY(QFile::exists(":/images/orma_logo_small.bmp") && QFile::exists(":/images/icon_info.png"));
+    QCOMPARE(qCleanupResources_paycard_gui(), 1);
+    QVERIFY(!QFile::exists(":/images/icon_info.png"));
+    QCOMPARE(qInitResources_paycard_gui(), 1);
+    QVERIFY(QFile::exists(":/images/icon_info.png"));
+}
+
+QTEST_APPLESS_MAIN(ApplicationTest)
+#include "tst_application.moc"

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "common/qnoxpaycard.h"
+
+#include "register.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+
+using NOX::PayCard::IPayCard;
+
+class BridgeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void exceptions();
+    void texts_data();
+    void texts();
+    void errors();
+    void failures_data();
+    void failures();
+    void parentGoes();
+    void hostQuits();
+    void entryWithinEntry();
+};
+
+void BridgeTest::exceptions()
+{
+    const Exception failure("Ошибка");
+    QCOMPARE(failure.whatQString(), QString("Ошибка"));
+    QCOMPARE(failure.what(), "Ошибка");
+    try {
+        QNoxPaycard().getInt(&IPayCard::getOperation);
+        QFAIL("there is no driver");
+    } catch (const Exception &missing) {
+        QCOMPARE(missing.whatQString(), QString("Несуществующее устройство"));
+    }
+    QVERIFY_EXCEPTION_THROWN(QNoxPaycard().raiseError(-1), DeviceNotFoundException);
+    QCOMPARE(QNoxPaycard().raiseError(0), 0);
+    QCOMPARE(QNoxPaycard().raiseError(7), 7);
+}
+
+void BridgeTest::texts_data()
+{
+    QTest::addColumn<int>("length");
+    QTest::addColumn<int>("calls");
+    QTest::newRow("none") << 0 << 1;
+    QTest::newRow("short") << 5 << 1;
+    QTest::newRow("buffer filled without a zero") << 1024 << 1;
+    QTest::newRow("one more") << 1025 << 2;
+    QTest::newRow("long") << 3000000 << 2;
+}
+
+void BridgeTest::texts()
+{
+    QFETCH(int, length);
+    Register shop;
+    shop.driver.operation.reference = QString("x").repeated(length);
+    const QNoxPaycard driver(&shop.driver);
+    const QString text = driver.getBuff(&IPayCard::getReference);
+    QCOMPARE(text, shop.driver.operation.reference);
+    QCOMPARE(text.isNull(), length == 0);
+    QTEST(shop.calls("getReference"), "calls");
+
+    const auto answer = [&](Fault fault) {
+        shop.driver.failOperation("getReference", {fault, 1, QString(), QString()});
+        return driver.getBuff(&IPayCard::getReference);
+    };
+    QCOMPARE(answer(Fault::Unterminated).size(), 1024);
+    QVERIFY(answer(Fault::EverLonger).isEmpty());
+    QVERIFY(answer(Fault::LargestInt).isNull());
+    QVERIFY(answer(Fault::Refuse).isNull());
+}
+
+void BridgeTest::errors()
+{
+    Register shop;
+    const QNoxPaycard driver(&shop.driver);
+    QCOMPARE(driver.raiseError(3), 3);
+    QVERIFY(shop.driver.journal().isEmpty());
+    QCOMPARE(driver.raiseError(-1), -1); // the driver knows of no failure
+    const auto message = [&](const Failure &failure) {
+        shop.driver.failOperation("setOperatorIndex", failure);
+        try {
+            driver.raiseError(shop.driver.setOperatorIndex(0));
+        } catch (const Exception &raised) {
+            return raised.whatQString();
+        }
+        return QString("nothing raised");
+    };
+    QCOMPARE(message({Fault::Refuse, 12, "Текст %1", "%2 деталь"}), QString("[12] Текст %1 (%2 деталь)"));
+    QCOMPARE(message({Fault::Refuse, -3, "Текст", QString()}), QString("[-3] Текст"));
+    QCOMPARE(message({Fault::Refuse, 4, QString(), QString()}), QString("[4] "));
+    QCOMPARE(message({Fault::Refuse, 0, "Текст", QString()}), QString("nothing raised"));
+}
+
+namespace {
+
+const struct
+{
+    const char *name;
+    EntryPoint call;
+    int lastResult;
+} EntryPoints[] = {
+    {"CommissionAddition", CommissionAddition, 2},
+    {"SelectOperator", SelectOperator, 1},
+    {"ShowProperties", ShowProperties, 1},
+    {"ConfirmPayment", ConfirmPayment, 1},
+};
+
+/// A user who agrees to everything, and leaves where that does not help.
+void agree(QWidget *window)
+{
+    if (!ModalScript::press(window, "pbtnOk") && !ModalScript::press(window, "OK")) {
+        ModalScript::press(window, "pbtnCancel");
+    }
+}
+
+Register shopWithOperator()
+{
+    return Register(
+        {{"Protocol", 2}, {"Operators", 1}, {"Operator0", document({{"Name", "Связь"}, {"MaxSum", 1000}})}});
+}
+
+} // namespace
+
+void BridgeTest::failures_data()
+{
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<QString>("operation");
+    for (int entry = 0; entry < 4; ++entry) {
+        for (const QString &operation : SimulatedDriver::operations()) {
+            QTest::addRow("%s, %s", EntryPoints[entry].name, qPrintable(operation)) << entry << operation;
+        }
+    }
+}
+
+// Whatever a driver does wrong, the call returns one of its results and leaves nothing behind.
+void BridgeTest::failures()
+{
+    QFETCH(int, entry);
+    QFETCH(QString, operation);
+    for (const Fault fault : {Fault::Refuse, Fault::NoText, Fault::EverLonger, Fault::LargestInt,
+                              Fault::Unterminated, Fault::ThrowStandard, Fault::ThrowOther}) {
+        Register shop = shopWithOperator();
+        shop.driver.operation.operatorIndex = 0;
+        shop.driver.operation.sum = 100;
+        shop.driver.failOperation(operation, {fault, 5, "Сбой", "деталь"});
+        // The error operations are asked after another one has failed.
+        if (operation.startsWith("getResult") || operation.startsWith("getError")) {
+            shop.driver.failOperation("setOperatorIndex", {Fault::Refuse, 6, "Отказ", QString()});
+            shop.driver.failOperation("setSettings", {Fault::Refuse, 6, "Отказ", "деталь"});
+        }
+        const int result = shop.run(EntryPoints[entry].call, {agree, agree, agree});
+        QVERIFY2(result >= -1 && result <= EntryPoints[entry].lastResult,
+                 qPrintable(QString::number(result)));
+        const bool reached = shop.calls(qPrintable(operation)) > 0;
+        const bool throws = fault == Fault::ThrowStandard || fault == Fault::ThrowOther;
+        if (!reached && shop.driver.failures().size() == 1) {
+            QVERIFY2(result >= 1, "nothing failed");
+        }
+        // The properties show a standard exception of the write and stay open.
+        if (reached && throws && !(operation == "setSettings" && fault == Fault::ThrowStandard) &&
+            EntryPoints[entry].call != ShowProperties) {
+            QCOMPARE(result, -1);
+        }
+        if (EntryPoints[entry].call == ShowProperties && operation != "setPropertiesShown") {
+            QCOMPARE(shop.driver.propertiesShown(), 0);
+            QCOMPARE(shop.calls("setPropertiesShown"), 2);
+        }
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+}
+
+// The host deletes the parent of a window that is open, also of one that another window has opened.
+void BridgeTest::parentGoes()
+{
+    for (const auto &entry : EntryPoints) {
+        Register shop = shopWithOperator();
+        QWidget *parent = new QWidget;
+        QCOMPARE(shop.run(entry.call, {[&](QWidget *) { delete parent; }}, parent), 0);
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+    for (const char *button :
+         {"pbtnSlip", "pbtnOperators", "pbtnSettingsButton", "pbtnAbout", "pbtnPathACDialog"}) {
+        Register shop = shopWithOperator();
+        QWidget *parent = new QWidget;
+        QCOMPARE(shop.run(ShowProperties, {press(button), [&](QWidget *) { delete parent; }}, parent), 0);
+        QCOMPARE(shop.driver.propertiesShown(), 0);
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+}
+
+void BridgeTest::hostQuits()
+{
+    for (const auto &entry : EntryPoints) {
+        Register shop = shopWithOperator();
+        int result = -1;
+        QTimer::singleShot(
+            0, qApp, [&] { result = shop.run(entry.call, {[](QWidget *) { QCoreApplication::exit(7); }}); });
+        QCOMPARE(QApplication::exec(), 7);
+        QCOMPARE(result, 0);
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+}
+
+void BridgeTest::entryWithinEntry()
+{
+    Register outer = shopWithOperator();
+    Register inner = shopWithOperator();
+    int innerResult = 0;
+    const auto callAgain = [&](QWidget *window) {
+        QTimer::singleShot(0, window, [&] { innerResult = SelectOperator(&inner.driver, nullptr); });
+    };
+    const auto choose = [](QWidget *window) {
+        QCOMPARE(window->windowTitle(), QString("Выбор оператора"));
+        ModalScript::press(window, "pbtnOk");
+    };
+    const int outerResult = outer.run(ShowProperties, {callAgain, choose, press("pbtnCancel")});
+    QCOMPARE(innerResult, 1);
+    QCOMPARE(inner.driver.operation.operatorIndex, 0);
+    QCOMPARE(outerResult, 0);
+    QCOMPARE(outer.driver.propertiesShown(), 0);
+}
+
+QTEST_MAIN(BridgeTest)
+#include "tst_bridge.moc"

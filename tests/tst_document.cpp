@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "common/qnoxsettings.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(QVariant)
+
+class DocumentTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textForm();
+    void numbers_data();
+    void numbers();
+    void roundTrip_data();
+    void roundTrip();
+    void reading_data();
+    void reading();
+    void damaged();
+    void hostile_data();
+    void hostile();
+};
+
+void DocumentTest::textForm()
+{
+    QNoxSettings settings;
+    QCOMPARE(settings.toXml(0).trimmed(), QString("<settings version=\"0\"/>"));
+
+    settings.set("ip", "small letters last");
+    settings.set("IPAddress", "10.0.0.1");
+    settings.set("BaudRate", 9600);
+    settings.set("Empty", QString());
+    settings.set("gone", 1);
+    settings.remove("gone");
+    settings.remove("never there");
+    QCOMPARE(settings.toXml(-3), QString("<settings version=\"-3\">\n"
+                                         "    <value name=\"BaudRate\">9600</value>\n"
+                                         "    <value name=\"Empty\"></value>\n"
+                                         "    <value name=\"IPAddress\">10.0.0.1</value>\n"
+                                         "    <value name=\"ip\">small letters last</value>\n"
+                                         "</settings>\n"));
+    QCOMPARE(settings.get("absent", 7), QVariant(7));
+    QVERIFY(!settings.get("absent").isValid());
+}
+
+void DocumentTest::numbers_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("integer") << QVariant(-5) << "-5";
+    QTest::newRow("ten to the tenth") << QVariant(1e10) << "10000000000";
+    QTest::newRow("fifteen digits") << QVariant(123456789.1234567) << "123456789.123457";
+    QTest::newRow("tenth") << QVariant(0.1) << "0.1";
+    QTest::newRow("large") << QVariant(1e300) << "1e+300";
+    QTest::newRow("true") << QVariant(true) << "true";
+    QTest::newRow("nothing") << QVariant() << "";
+}
+
+void DocumentTest::numbers()
+{
+    QFETCH(QVariant, value);
+    QNoxSettings settings;
+    settings.set("n", value);
+    const QVariant read = QNoxSettings(settings.toXml(0)).get("n");
+    QTEST(read.toString(), "text");
+    // The document does not record types.
+    QVERIFY(read == QVariant(read.toString()));
+}
+
+void DocumentTest::roundTrip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("kept");
+    const auto same = [](const char *name, const QString &text) { QTest::newRow(name) << text << text; };
+    same("markup", "a&b<c>\"d'e]]>&amp;");
+    same("document",
+         "<?xml version=\"1.0\"?>\n<settings version=\"1\"><value name=\"x\">&lt;</value></settings>");
+    same("white space", " \t ");
+    same("line ends", "one\ntwo\r\nthree\rfour\n");
+    same("beyond the first plane", QString::fromUtf8("Чек 😀 №1"));
+    const auto cut = [](const char *name, const QString &text, const QString &kept) {
+        QTest::newRow(name) << text << kept;
+    };
+    cut("control characters", QString("a") + QChar(0x1B) + QChar(0) + "b", "ab");
+    cut("half a pair", QString("a") + QChar(0xD83D) + "b" + QChar(0xDE00), "ab");
+    cut("no characters", QString("a") + QChar(0xFFFE) + QChar(0xFFFF) + QChar(0xFFFD),
+        QString("a") + QChar(0xFFFD));
+}
+
+void DocumentTest::roundTrip()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, kept);
+    QNoxSettings settings;
+    settings.set("before", "1");
+    settings.set("key" + text, text);
+    const QNoxSettings read(settings.toXml(0));
+    QCOMPARE(read.get("before").toString(), QString("1"));
+    QCOMPARE(read.get("key" + kept).toString(), kept);
+}
+
+void DocumentTest::reading_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<QString>("entries"); // name=value, in ascending order
+    QTest::addColumn<int>("version");     // 5 before the text is read
+    const auto row = [](const char *name, const char *xml, const char *entries, int version) {
+        QTest::newRow(name) << QString(xml) << QString(entries) << version;
+    };
+    row("version of the root does not count", "<settings version='7'><value name='a'>1</value></settings>",
+        "a=1", 5);
+    row("version below the root", "<r><x><settings version='7'/></x><settings version='8'/></r>", "", 7);
+    row("version that is no number", "<r><settings version='x'/><settings version='8'/></r>", "", 0);
+    row("any depth, any root",
+        "<r><a><value name='x'>1</value></a><b><c><value name='y'>2</value></c></b></r>", "x=1 y=2", 5);
+    row("the later one wins", "<r><value name='x'>1</value><value name='x'>2</value></r>", "x=2", 5);
+    row("no name", "<r><value>1</value></r>", "=1", 5);
+    row("text beneath", "<r><value name='x'>1<b>2<!-- no --></b><![CDATA[<3]]></value></r>", "x=12<3", 5);
+    row("value in a value", "<r><value name='x'>1<value name='y'>2</value>3</value></r>", "x=123 y=2", 5);
+    row("the root is no value", "<value name='x'>1<value name='y'>2</value></value>", "y=2", 5);
+    row("prefixes are part of the name",
+        "<r xmlns:p='u'><p:value name='x'>1</p:value><value name='y'>2</value></r>", "y=2", 5);
+    row("declaration", "<?xml version='1.0' encoding='windows-1251'?><r><value name='x'>\xD0\xB6</value></r>",
+        "x=\xD0\xB6", 5);
+    row("entity", "<!DOCTYPE r [<!ENTITY e 'E'>]><r><value name='x'>&e;&e;</value></r>", "x=EE", 5);
+    row("empty", "", "", 5);
+    row("no document", "Protocol=3", "", 5);
+    row("entries before the error",
+        "<r><settings version='7'/><value name='x'>1</value><value name='y'>2</valve></r>", "", 5);
+    row("two roots", "<r><value name='x'>1</value></r><r/>", "", 5);
+}
+
+void DocumentTest::reading()
+{
+    QFETCH(QString, xml);
+    QFETCH(QString, entries);
+    QNoxSettings settings("<r><settings version='5'/><value name='old'>1</value></r>");
+    settings.fromXml(xml);
+    QNoxSettings expected;
+    const QStringList pairs = entries.isEmpty() ? QStringList() : entries.split(' ');
+    for (const QString &pair : pairs) {
+        expected.set(pair.section('=', 0, 0), pair.section('=', 1));
+    }
+    QTEST(settings.toXml(0).section('"', 1, 1).toInt(), "version");
+    QCOMPARE(settings.toXml(9), expected.toXml(9));
+}
+
+// A document that was cut off anywhere gives nothing rather than a part of the settings.
+void DocumentTest::damaged()
+{
+    const QString whole = "<settings version=\"2\">\n<value name=\"a&amp;b\">1</value>\n</settings>";
+    for (int length = 0; length < whole.size(); ++length) {
+        QVERIFY2(!QNoxSettings(whole.left(length)).get("a&b").isValid(), qPrintable(whole.left(length)));
+    }
+    QCOMPARE(QNoxSettings(whole).get("a&b").toString(), QString("1"));
+}
+
+void DocumentTest::hostile_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<int>("length"); // of the value "x", -1 for none
+    const QString deep = QString("<d>").repeated(100000) + "%1" + QString("</d>").repeated(100000);
+    const QString value = "<value name='x'>%1</value>";
+    QTest::newRow("nested elements") << deep.arg(value.arg("1")) << 1;
+    QTest::newRow("nested values that unfold")
+        << QString(value).repeated(0) + QString("<r>") + QString("<value name='x'>").repeated(5000) +
+               QString("t").repeated(100000) + QString("</value>").repeated(5000) + "</r>"
+        << -1;
+    QTest::newRow("a million characters")
+        << "<r>" + value.arg(QString("t").repeated(1000000)) + "</r>" << 1000000;
+    QTest::newRow("one name two hundred times")
+        << "<r>" + value.arg("1").repeated(200) + value.arg("22") + "</r>" << 2;
+    QTest::newRow("entities in entities")
+        << "<!DOCTYPE r [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
+           "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'><!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>]><r>" +
+               value.arg("&d;&d;&d;&d;&d;") + "</r>"
+        << -1;
+    QTest::newRow("many entities") << "<!DOCTYPE r [<!ENTITY a '" + QString("a").repeated(4000) + "'>]><r>" +
+                                          value.arg(QString("&a;").repeated(1000000)) + "</r>"
+                                   << -1;
+}
+
+void DocumentTest::hostile()
+{
+    QFETCH(QString, xml);
+    const QVariant value = QNoxSettings(xml).get("x");
+    QTEST(value.isValid() ? static_cast<int>(value.toString().size()) : -1, "length");
+}
+
+QTEST_APPLESS_MAIN(DocumentTest)
+#include "tst_document.moc"

@@ -1,0 +1,710 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "register.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTextEdit>
+
+class PropertiesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void protocols_data();
+    void protocols();
+    void values();
+    void ways();
+    void directory();
+    void refusals();
+    void slip();
+    void operatorList();
+    void operatorDeletion();
+    void operatorRecord();
+    void operatorRules();
+    void cyberPlat();
+    void cyberPlatRules();
+    void arcus2_data();
+    void arcus2();
+    void lumiPay_data();
+    void lumiPay();
+    void terminal_data();
+    void terminal();
+    void terminalPages_data();
+    void terminalPages();
+};
+
+namespace {
+
+typedef ModalScript::Step Step;
+
+QString text(QWidget *window, const char *label)
+{
+    return child<QLabel>(window, label)->text();
+}
+
+bool enabled(QWidget *window, const char *widget)
+{
+    return child<QWidget>(window, widget)->isEnabled();
+}
+
+/// What a widget shows, as text.
+QString shown(QWidget *window, const char *name)
+{
+    QWidget *widget = child<QWidget>(window, name);
+    if (const auto *combo = qobject_cast<QComboBox *>(widget)) {
+        return combo->currentData().toString();
+    }
+    if (const auto *edit = qobject_cast<QTextEdit *>(widget)) {
+        return edit->toPlainText();
+    }
+    if (const auto *spin = qobject_cast<QDoubleSpinBox *>(widget)) {
+        return QString::number(spin->value(), 'g', 15);
+    }
+    if (const auto *spin = qobject_cast<QSpinBox *>(widget)) {
+        return QString::number(spin->value());
+    }
+    if (const auto *box = qobject_cast<QCheckBox *>(widget)) {
+        return box->isChecked() ? "true" : "false";
+    }
+    return child<QLineEdit>(window, name)->text();
+}
+
+void enter(QWidget *window, const char *name, const QString &value)
+{
+    QWidget *widget = child<QWidget>(window, name);
+    if (auto *combo = qobject_cast<QComboBox *>(widget)) {
+        combo->setCurrentIndex(combo->findData(value));
+    } else if (auto *edit = qobject_cast<QTextEdit *>(widget)) {
+        edit->setPlainText(value);
+    } else if (auto *spin = qobject_cast<QDoubleSpinBox *>(widget)) {
+        spin->setValue(value.toDouble());
+    } else if (auto *number = qobject_cast<QSpinBox *>(widget)) {
+        number->setValue(value.toInt());
+    } else if (auto *box = qobject_cast<QCheckBox *>(widget)) {
+        box->setChecked(value == "true");
+    } else {
+        child<QLineEdit>(window, name)->setText(value);
+    }
+}
+
+struct Field
+{
+    const char *widget;
+    const char *key;
+    QString initial; ///< shown when the document has nothing
+    QString value;   ///< entered, and stored as this text
+};
+
+/// Looks at what the fields show at first and enters their values.
+Step fill(const std::vector<Field> &fields)
+{
+    return [=](QWidget *window) {
+        for (const Field &field : fields) {
+            QCOMPARE(shown(window, field.widget), field.initial);
+            enter(window, field.widget, field.value);
+        }
+    };
+}
+
+void compareStored(const QNoxSettings &settings, const std::vector<Field> &fields)
+{
+    for (const Field &field : fields) {
+        QCOMPARE(settings.get(field.key).toString(), field.value);
+    }
+}
+
+QNoxSettings nested(const Register &shop, const char *key)
+{
+    return QNoxSettings(shop.stored(key).toString());
+}
+
+} // namespace
+
+void PropertiesTest::protocols_data()
+{
+    QTest::addColumn<int>("protocol");
+    QTest::addColumn<QString>("enabledWidgets"); // directory, time-out, parameters, operators, slip
+    QTest::addColumn<QString>("settingsTitle");
+    const auto row = [](int protocol, const char *widgets, const char *title) {
+        QTest::addRow("protocol %d", protocol) << protocol << QString(widgets) << QString(title);
+    };
+    row(0, "dt--s", "");
+    row(1, "-----", "");
+    row(2, "dtpos", "Свойства CyberPlat");
+    row(3, "-----", "");
+    row(4, "d---s", "");
+    row(5, "-----", "");
+    row(6, "dtp-s", "Свойства Arcom ARCUS2");
+    row(7, "dt--s", "");
+    row(8, "d-p-s", "Свойства Inpas SmartSale (LumiPay)");
+    row(9, "d-p-s", "Свойства Arcom ARCUS2 (LumiPay)");
+    row(10, "d-p-s", "Свойства Арком АРКУС2");
+    row(11, "d-p-s", "Свойства Сбербанк");
+    row(12, "d-p-s", "Свойства INPAS SmartSale");
+    row(13, "d-p-s", "Свойства ARCOM Arcus2");
+}
+
+void PropertiesTest::protocols()
+{
+    QFETCH(int, protocol);
+    QFETCH(QString, enabledWidgets);
+    QFETCH(QString, settingsTitle);
+    Register shop({{"Protocol", protocol}});
+    QString title;
+    std::vector<Step> steps = {[&](QWidget *window) {
+        const char *const widgets[] = {"lePathACDialog", "spinTimeout", "pbtnSettingsButton", "pbtnOperators",
+                                       "pbtnSlip"};
+        QString seen;
+        for (int i = 0; i < 5; ++i) {
+            seen += enabled(window, widgets[i]) ? "dtpos"[i] : '-';
+        }
+        QCOMPARE(seen, enabledWidgets);
+        QCOMPARE(enabled(window, "pbtnPathACDialog"), seen[0] == 'd');
+        ModalScript::press(window, "pbtnSettingsButton");
+    }};
+    if (!settingsTitle.isEmpty()) {
+        steps.emplace_back([&](QWidget *window) {
+            title = window->windowTitle();
+            window->close();
+        });
+    }
+    steps.push_back(press("pbtnCancel"));
+    QCOMPARE(shop.run(ShowProperties, steps), 0);
+    QVERIFY(shop.completed);
+    QCOMPARE(title, settingsTitle);
+}
+
+// The settings of one window, its file and the next window.
+void PropertiesTest::values()
+{
+    QTemporaryDir directory;
+    const std::vector<Field> fields = {{"cmbProtocol", "Protocol", "2", "13"},
+                                       {"lePathACDialog", "PathAC", "", directory.path()},
+                                       {"spinTimeout", "Timeout", "0", "99"}};
+    const QString file = directory.filePath("settings.xml");
+    {
+        Register shop;
+        QVERIFY(shop.driver.openSettings(file, nullptr));
+        shop.driver.replaceSettings(document({{"Protocol", "02"}, {"Unknown", "kept"}}), nullptr);
+        QCOMPARE(shop.run(ShowProperties, {fill(fields), press("pbtnOk")}), 1);
+        compareStored(QNoxSettings(shop.driver.settings()), fields);
+        QVERIFY(shop.driver.settings().startsWith("<settings version=\"2\">"));
+    }
+    Register shop;
+    QVERIFY(shop.driver.openSettings(file, nullptr));
+    QCOMPARE(shop.stored("Unknown").toString(), QString("kept"));
+    const auto look = [&](QWidget *window) {
+        for (const Field &field : fields) {
+            QCOMPARE(shown(window, field.widget), field.value);
+        }
+    };
+    QCOMPARE(shop.run(ShowProperties, {look, press("pbtnCancel")}), 0);
+
+    // The spin box clamps; a protocol that the driver does not list leaves the second one.
+    Register odd({{"Protocol", 77}, {"Timeout", 500}});
+    QCOMPARE(odd.run(ShowProperties, {press("pbtnOk")}), 1);
+    QCOMPARE(odd.stored("Timeout").toInt(), 99);
+    QCOMPARE(odd.stored("Protocol").toInt(), 2);
+
+    // With no list there is no number to store.
+    Register silent({{"Protocol", 77}});
+    silent.driver.failOperation("getSettingChoices", {Fault::NoText, 0, QString(), QString()});
+    QCOMPARE(silent.run(ShowProperties, {press("pbtnOk")}), 1);
+    QCOMPARE(silent.stored("Protocol").toInt(), 77);
+}
+
+// Every way out, and what it costs the driver.
+void PropertiesTest::ways()
+{
+    const auto change = [](QWidget *window) { enter(window, "spinTimeout", "55"); };
+    const std::vector<std::pair<Step, int>> ways = {
+        {press("pbtnOk"), 1},
+        {key(Qt::Key_Return), 1},
+        {press("pbtnCancel"), 0},
+        {key(Qt::Key_Escape), 0},
+        {[](QWidget *window) { window->close(); }, 0},
+    };
+    for (const auto &way : ways) {
+        Register shop({{"Timeout", 30}, {"Odd", " "}});
+        QCOMPARE(shop.run(ShowProperties, {change, way.first}), way.second);
+        QCOMPARE(shop.stored("Timeout").toInt(), way.second ? 55 : 30);
+        QCOMPARE(shop.stored("Odd").toString(), QString(" "));
+        QStringList calls;
+        for (const DriverCall &call : shop.driver.journal()) {
+            calls += call.operation;
+        }
+        QCOMPARE(calls.join(' '),
+                 QString("setPropertiesShown getSettings getSettingChoices setSettings setPropertiesShown"));
+        QCOMPARE(shop.driver.propertiesShown(), 0);
+    }
+}
+
+void PropertiesTest::directory()
+{
+    Register shop({{"PathAC", "/no/such/directory"}, {"Protocol", 3}});
+    QTemporaryDir directory;
+    const auto look = [](QWidget *window) {
+        QCOMPARE(text(window, "lbError"), QString("Каталог обмена с АС не существует"));
+        QVERIFY(!enabled(window, "pbtnOk"));
+        enter(window, "cmbProtocol", "2");
+        QVERIFY(!enabled(window, "pbtnOk"));
+        enter(window, "lePathACDialog", QString());
+        QVERIFY(enabled(window, "pbtnOk"));
+        QVERIFY(text(window, "lbError").isEmpty());
+    };
+    const auto choose = [&](QWidget *window) {
+        QCOMPARE(window->windowTitle(), QString("Укажите каталог обмена с АС"));
+        child<QLineEdit>(window, "fileNameEdit")->setText(directory.path());
+        qobject_cast<QDialog *>(window)->accept();
+    };
+    QCOMPARE(shop.run(ShowProperties, {look, press("pbtnPathACDialog"), choose, press("pbtnOk")}), 1);
+    QCOMPARE(shop.stored("PathAC").toString(), directory.path());
+}
+
+void PropertiesTest::refusals()
+{
+    const Failure refused = {Fault::Refuse, 12, "Диск полон", "settings.xml"};
+    Register shop({{"Timeout", 30}});
+    const auto look = [&](QWidget *window) {
+        QCOMPARE(text(window, "lbError"), QString("[12] Диск полон (settings.xml)"));
+        shop.driver.clearFailures();
+    };
+    // The window stays until the driver takes the settings.
+    for (const char *button : {"pbtnOk", "pbtnCancel"}) {
+        shop.driver.failOperation("setSettings", refused);
+        QCOMPARE(shop.run(ShowProperties, {press(button), look, press(button)}), button[4] == 'O' ? 1 : 0);
+    }
+    // Closing it by force ends the call.
+    shop.driver.failOperation("setSettings", refused);
+    const auto message = [](QWidget *window) {
+        QCOMPARE(qobject_cast<QMessageBox *>(window)->text(), QString("Ошибка настройки свойств"));
+    };
+    QCOMPARE(shop.run(ShowProperties, {[](QWidget *window) { window->close(); }, message, press("OK")}), -1);
+    QCOMPARE(shop.driver.propertiesShown(), 0);
+    shop.driver.clearFailures();
+
+    // A document that could not be read must not be overwritten.
+    for (const char *operation : {"getSettings", "getSettingChoices", "setPropertiesShown"}) {
+        shop.driver.clearJournal();
+        shop.driver.failOperation(operation, refused);
+        QCOMPARE(shop.run(ShowProperties, {message, press("OK")}), -1);
+        QVERIFY(shop.completed);
+        QCOMPARE(shop.calls("setSettings"), 0);
+        shop.driver.clearFailures();
+    }
+    // Refusing the farewell only.
+    const auto failLater = [&](QWidget *) { shop.driver.failOperation("setPropertiesShown", refused); };
+    shop.driver.clearJournal();
+    QCOMPARE(shop.run(ShowProperties, {failLater, press("pbtnOk"), message, press("OK")}), -1);
+    QCOMPARE(shop.calls("setPropertiesShown"), 2);
+}
+
+void PropertiesTest::slip()
+{
+    const QString large = QString("строка\n").repeated(150000);
+    const std::vector<Field> fields = {{"teHeader", "Header", "", " Магазин\n\n<b>"},
+                                       {"teFooter", "Footer", "", large},
+                                       {"checkHideCard", "HideCard", "true", "true"}};
+    Register shop({{"Slip", document({{"HideCard", false}, {"Width", 32}})}});
+    const auto look = [](QWidget *window) {
+        QVERIFY(!enabled(window, "checkHideCard"));
+        QVERIFY(child<QTextEdit>(window, "teHeader")->alignment().testFlag(Qt::AlignHCenter));
+    };
+    const std::vector<Step> edit = {press("pbtnSlip"), look, fill(fields), press("pbtnOk")};
+    // Dropped with the properties.
+    std::vector<Step> cancelled = edit;
+    cancelled.push_back(press("pbtnCancel"));
+    QCOMPARE(shop.run(ShowProperties, cancelled), 0);
+    QVERIFY(!nested(shop, "Slip").get("Header").isValid());
+
+    std::vector<Step> accepted = edit;
+    accepted.push_back(press("pbtnOk"));
+    QCOMPARE(shop.run(ShowProperties, accepted), 1);
+    compareStored(nested(shop, "Slip"), fields);
+    QCOMPARE(nested(shop, "Slip").get("Width").toInt(), 32);
+}
+
+void PropertiesTest::operatorList()
+{
+    Register shop({{"Operators", 3},
+                   {"Operator0", document({{"Name", "Связь"}, {"Code", 1}, {"AddReqSum", "x"}})},
+                   {"Operator2", document({{"Name", "Свет"}, {"Code", 2}})}});
+    const auto look = [](QWidget *window) {
+        QListWidget *list = child<QListWidget>(window, "lwOperators");
+        QCOMPARE(list->count(), 3);
+        QCOMPARE(list->item(1)->text(), QString());
+        QVERIFY(!enabled(window, "pbtnEdit") && !enabled(window, "pbtnDelete"));
+        list->setCurrentRow(0);
+        QVERIFY(enabled(window, "pbtnEdit") && enabled(window, "pbtnDelete"));
+    };
+    const auto rename = [](const QString &name) {
+        return [=](QWidget *window) {
+            enter(window, "leName", name);
+            enter(window, "leCode", "9");
+        };
+    };
+    const auto deleteSecond = [](QWidget *window) {
+        child<QListWidget>(window, "lwOperators")->setCurrentRow(1);
+        ModalScript::press(window, "pbtnDelete");
+    };
+    const std::vector<Step> steps = {press("pbtnOperators"), look,
+                                     press("pbtnEdit"),      rename("Связь-2"),
+                                     press("pbtnOk"),        press("pbtnAdd"),
+                                     rename("Новый"),        press("pbtnCancel"),
+                                     press("pbtnAdd"),       rename("Вода"),
+                                     press("pbtnOk"),        deleteSecond};
+    // Neither Escape in the list nor Cancel in the properties changes anything.
+    const QString before = shop.driver.settings();
+    std::vector<Step> escaped = steps;
+    escaped.insert(escaped.end(), {key(Qt::Key_Escape), press("pbtnCancel")});
+    QCOMPARE(shop.run(ShowProperties, escaped), 0);
+    QCOMPARE(shop.stored("Operator0").toString(), QNoxSettings(before).get("Operator0").toString());
+    QCOMPARE(shop.stored("Operators").toInt(), 3);
+
+    std::vector<Step> accepted = steps;
+    accepted.insert(accepted.end(), {press("pbtnOk"), press("pbtnOk")});
+    QCOMPARE(shop.run(ShowProperties, accepted), 1);
+    QVERIFY(shop.completed);
+    QCOMPARE(shop.stored("Operators").toInt(), 3);
+    QStringList names;
+    for (const char *record : {"Operator0", "Operator1", "Operator2"}) {
+        names += nested(shop, record).get("Name").toString();
+    }
+    QCOMPARE(names.join(' '), QString("Связь-2 Свет Вода"));
+    QCOMPARE(nested(shop, "Operator0").get("AddReqSum").toString(), QString("x"));
+    QVERIFY(!shop.stored("Operator3").isValid());
+}
+
+void PropertiesTest::operatorDeletion()
+{
+    Register shop({{"Operators", 2},
+                   {"Operator0", document({{"Name", "A"}})},
+                   {"Operator1", document({{"Name", "B"}})}});
+    const auto remove = [](QWidget *window) {
+        QListWidget *list = child<QListWidget>(window, "lwOperators");
+        list->setCurrentRow(0);
+        child<QPushButton>(window, "pbtnDelete")->click();
+        // Edit goes by the inverted rule: only an empty list enables it.
+        QVERIFY(enabled(window, "pbtnDelete") != enabled(window, "pbtnEdit"));
+        QCOMPARE(enabled(window, "pbtnDelete"), list->count() == 1);
+    };
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnOperators"), remove, remove, press("pbtnEdit"),
+                                       press("pbtnOk"), press("pbtnOk")}),
+             1);
+    QVERIFY(shop.completed);
+    QCOMPARE(shop.stored("Operators").toInt(), 0);
+    QVERIFY(!shop.stored("Operator0").isValid());
+}
+
+void PropertiesTest::operatorRecord()
+{
+    const std::vector<Field> fields = {{"leCode", "Code", "", "77"},
+                                       {"leName", "Name", "Оператор", "Свет & газ"},
+                                       {"spinMaxSum", "MaxSum", "0", "10000000000"},
+                                       {"spinMinSum", "MinSum", "0", "0.01"},
+                                       {"cmbCommissionType", "ComissionType", "0", "1"},
+                                       {"cmbCommissionAddition", "ComissionAddition", "0", "2"},
+                                       {"spinCommission", "Comission", "0", "2.5"},
+                                       {"leGateway", "Gateway", "", "gw"},
+                                       {"cmbParam1", "Param1", "0", "4"},
+                                       {"leMask1", "Mask1", "(999)999-99-99", "99"},
+                                       {"cmbParam2", "Param2", "0", "3"},
+                                       {"leMask2", "Mask2", "(999)999-99-99", ""},
+                                       {"leSumWareCode", "SumWareCode", "", "100"},
+                                       {"leCommissionWareCode", "ComissionWareCode", "", "200"}};
+    Register shop;
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnOperators"), press("pbtnAdd"), fill(fields),
+                                       press("pbtnOk"), press("pbtnOk"), press("pbtnOk")}),
+             1);
+    compareStored(nested(shop, "Operator0"), fields);
+}
+
+void PropertiesTest::operatorRules()
+{
+    Register shop(
+        {{"Operators", 1}, {"Operator0", document({{"Name", "A"}, {"Code", 1}, {"ComissionType", 7}})}});
+    const auto rules = [](QWidget *window) {
+        QCOMPARE(shown(window, "cmbCommissionType"), QString("0"));
+        const auto expect = [&](const QString &error) {
+            QCOMPARE(text(window, "lbError"), error.isEmpty() ? error : "Ошибка: " + error);
+            QCOMPARE(enabled(window, "pbtnOk"), error.isEmpty());
+        };
+        expect(QString());
+        enter(window, "leCode", QString());
+        expect("Не указан код");
+        enter(window, "leName", QString());
+        expect("Не указано название");
+        enter(window, "leName", "A");
+        enter(window, "leCode", "1");
+        enter(window, "spinMinSum", "100");
+        expect("Минимальный платеж не может быть больше максимального");
+        enter(window, "spinMaxSum", "99.99");
+        expect("Минимальный платеж не может быть больше максимального");
+        enter(window, "spinMaxSum", "100");
+        expect(QString());
+    };
+    const auto edit = [](QWidget *window) {
+        QListWidget *list = child<QListWidget>(window, "lwOperators");
+        QTimer::singleShot(0, list, [=] { emit list->itemDoubleClicked(list->item(0)); });
+    };
+    shop.run(ShowProperties,
+             {press("pbtnOperators"), edit, rules, press("pbtnOk"), press("pbtnOk"), press("pbtnOk")});
+    QVERIFY(shop.completed);
+    QCOMPARE(nested(shop, "Operator0").get("MinSum").toString(), QString("100"));
+}
+
+void PropertiesTest::cyberPlat()
+{
+    Register shop({{"URL", ""}, {"ProxyServer", ""}, {"UseProxy", "True"}});
+    QString url;
+    const auto defaults = [&](QWidget *window) {
+        url = shown(window, "leURL");
+        QVERIFY(url.startsWith("https://"));
+        QVERIFY(!enabled(window, "leProxyServer") && !enabled(window, "spinProxyPort"));
+        QCOMPARE(text(window, "lbError"), QString("Ошибка: Не указан пароль ключа"));
+        QVERIFY(!enabled(window, "pbtnOk"));
+        QCOMPARE(child<QLineEdit>(window, "leKeyLoadPwd")->echoMode(), QLineEdit::Password);
+    };
+    const std::vector<Field> fields = {{"leKeyLoadPwd", "KeyLoadPwd", "", "тайна"},
+                                       {"spinCheckTimeout", "CheckTimeout", "60", "999"},
+                                       {"spinDealerCode", "DealerCode", "0", "999999999"},
+                                       {"spinOperatorCode", "OperatorCode", "0", "2"},
+                                       {"spinPointCode", "PointCode", "0", "3"},
+                                       {"spinProxyPort", "ProxyPort", "8080", "65535"},
+                                       {"spinSerialKeyNumber", "SerialKeyNumber", "0", "4"},
+                                       {"leProxyServer", "ProxyServer", "localhost", "proxy"}};
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), defaults, fill(fields), press("pbtnOk"),
+                                       press("pbtnOk")}),
+             1);
+    compareStored(QNoxSettings(shop.driver.settings()), fields);
+    QCOMPARE(shop.stored("URL").toString(), url);
+    QCOMPARE(shop.stored("UseProxy").toString(), QString("false"));
+    for (const DriverCall &call : shop.driver.journal()) {
+        QVERIFY(!(call.arguments + call.result).contains("тайна"));
+    }
+}
+
+void PropertiesTest::cyberPlatRules()
+{
+    Register shop({{"KeyLoadPwd", "x"}, {"UseProxy", "true"}});
+    const auto rules = [](QWidget *window) {
+        QVERIFY(enabled(window, "pbtnOk") && enabled(window, "leProxyServer") &&
+                enabled(window, "spinProxyPort"));
+        enter(window, "leProxyServer", QString());
+        QCOMPARE(text(window, "lbError"), QString("Ошибка: Не указан адрес прокси-сервера"));
+        enter(window, "leURL", QString());
+        QCOMPARE(text(window, "lbError"), QString("Ошибка: Не указан адрес сервера"));
+        enter(window, "leURL", "u");
+        enter(window, "checkUseProxy", "false");
+        QVERIFY(text(window, "lbError").isEmpty());
+        QVERIFY(enabled(window, "pbtnOk") && !enabled(window, "leProxyServer"));
+        enter(window, "checkUseProxy", "true");
+        enter(window, "leProxyServer", "p");
+    };
+    shop.run(ShowProperties, {press("pbtnSettingsButton"), rules, press("pbtnOk"), press("pbtnOk")});
+    QCOMPARE(shop.stored("UseProxy").toString(), QString("true"));
+}
+
+void PropertiesTest::arcus2_data()
+{
+    QTest::addColumn<QVariant>("closeDay");
+    QTest::addColumn<QVariant>("printJournal");
+    QTest::addColumn<QString>("shownCodes");
+    QTest::addColumn<QString>("error");
+    const QString equal = "Коды операций не могут совпадать";
+    const QString placeholder = "Ошибка: здесь сообщение об ошибке в параметрах";
+    QTest::newRow("different") << QVariant(5) << QVariant(7) << "5 7" << QString();
+    QTest::newRow("equal") << QVariant(3) << QVariant(3) << "3 3" << equal;
+    QTest::newRow("nothing stored") << QVariant() << QVariant() << "1 1" << placeholder;
+    QTest::newRow("nothing changes") << QVariant(1) << QVariant(0) << "1 1" << placeholder;
+    QTest::newRow("one changes") << QVariant(1) << QVariant(3) << "1 3" << QString();
+    QTest::newRow("out of range") << QVariant(150) << QVariant(-4) << "99 1" << QString();
+}
+
+void PropertiesTest::arcus2()
+{
+    QFETCH(QVariant, closeDay);
+    QFETCH(QVariant, printJournal);
+    QFETCH(QString, shownCodes);
+    QFETCH(QString, error);
+    Values values = {{"Protocol", 6}};
+    if (closeDay.isValid()) {
+        values.insert(values.end(), {{"OpcodeCloseDay", closeDay}, {"OpcodePrintJournal", printJournal}});
+    }
+    Register shop(values);
+    const auto look = [&](QWidget *window) {
+        QCOMPARE(shown(window, "spinOpcodeCloseDay") + ' ' + shown(window, "spinOpcodePrintJournal"),
+                 shownCodes);
+        QCOMPARE(text(window, "lbError").remove(QRegularExpression("<[^>]*>")), error);
+        QVERIFY(enabled(window, "pbtnOk"));
+    };
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), look, press("pbtnOk"), press("pbtnOk")}),
+             1);
+    QCOMPARE(shop.stored("OpcodeCloseDay").toString() + ' ' + shop.stored("OpcodePrintJournal").toString(),
+             shownCodes);
+}
+
+void PropertiesTest::lumiPay_data()
+{
+    QTest::addColumn<int>("protocol");
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QString>("mode");
+    for (const int protocol : {8, 9, 10}) {
+        QTest::addRow("%d, nothing", protocol) << protocol << QVariant() << "0";
+        QTest::addRow("%d, modem", protocol) << protocol << QVariant("1") << "1";
+        QTest::addRow("%d, unknown", protocol) << protocol << QVariant(7) << "0";
+    }
+}
+
+void PropertiesTest::lumiPay()
+{
+    QFETCH(int, protocol);
+    QFETCH(QVariant, stored);
+    QFETCH(QString, mode);
+    Values values = {{"Protocol", protocol}};
+    if (stored.isValid()) {
+        values.emplace_back("ModemMode", stored);
+    }
+    Register shop(values);
+    const QString other = mode == "0" ? "1" : "0";
+    std::vector<Field> fields = {{"cmbModemMode", "ModemMode", mode, other}};
+    const bool hasTerminal = protocol == 8;
+    if (hasTerminal) {
+        fields.push_back({"leTerminalID", "TerminalID", "", "T 1"});
+    }
+    QCOMPARE(shop.run(ShowProperties,
+                      {press("pbtnSettingsButton"), fill(fields), press("pbtnCancel"), press("pbtnOk")}),
+             1);
+    QCOMPARE(shop.stored("ModemMode").toString(), stored.toString());
+    QCOMPARE(shop.run(ShowProperties,
+                      {press("pbtnSettingsButton"), fill(fields), press("pbtnOk"), press("pbtnOk")}),
+             1);
+    compareStored(QNoxSettings(shop.driver.settings()), fields);
+    QCOMPARE(shop.stored("TerminalID").isValid(), hasTerminal);
+}
+
+void PropertiesTest::terminal_data()
+{
+    QTest::addColumn<int>("protocol");
+    QTest::addColumn<QString>("port");
+    QTest::addColumn<QString>("changed"); // key=value of what OK writes
+    for (const int protocol : {11, 12, 13}) {
+        const QString id = protocol == 12 ? " TerminalID=T9" : "";
+        QTest::addRow("%d, serial", protocol) << protocol << "99"
+                                              << "BaudRate=1200 Port=99" + id;
+        QTest::addRow("%d, device file", protocol) << protocol << "TTY"
+                                                   << "BaudRate=115200 Port=TTY TTYSuffix=ACM0" + id;
+        QTest::addRow("%d, USB", protocol) << protocol << "USB"
+                                           << "Pid=0 Port=USB Vid=6699" + id;
+    }
+    QTest::addRow("network") << 11 << "TCPIP"
+                             << "IPAddress=host IPPort=65535 Port=TCPIP";
+}
+
+void PropertiesTest::terminal()
+{
+    QFETCH(int, protocol);
+    QFETCH(QString, port);
+    QFETCH(QString, changed);
+    const QStringList untouched = {"BaudRate=4800", "IPAddress=old", "IPPort=1", "Pid=255",
+                                   "Port=1",        "TTYSuffix=old", "Vid=70000"};
+    Values values = {{"Protocol", protocol}};
+    for (const QString &pair : untouched) {
+        values.emplace_back(pair.section('=', 0, 0), pair.section('=', 1));
+    }
+    Register shop(values);
+    const auto edit = [&](QWidget *window) {
+        QCOMPARE(child<QComboBox>(window, "cmbSerialBaudrate")->currentText(), QString("2400 бод"));
+        QCOMPARE(child<QComboBox>(window, "cmbSerialBaudrate")->currentIndex(), 2);
+        QCOMPARE(shown(window, "leUsbPid"), QString("00ff"));
+        enter(window, "cmbPort", port);
+        enter(window, "cmbSerialBaudrate", "1200");
+        enter(window, "cmbTtyBaudrate", "115200");
+        enter(window, "leTtyFileName", "ACM0");
+        enter(window, "leUsbVid", "1A2b");
+        enter(window, "leUsbPid", QString());
+        if (protocol == 11) {
+            enter(window, "leNetAddress", "host");
+            enter(window, "spinNetPort", "70000");
+        }
+        if (protocol == 12) {
+            enter(window, "leTerminalID", "T9");
+        }
+    };
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), edit, press("pbtnOk"), press("pbtnOk")}),
+             1);
+    QNoxSettings expected(document(values));
+    const QStringList pairs = changed.split(' ');
+    for (const QString &pair : pairs) {
+        expected.set(pair.section('=', 0, 0), pair.section('=', 1));
+    }
+    for (const char *key :
+         {"Port", "BaudRate", "TTYSuffix", "IPAddress", "IPPort", "Vid", "Pid", "TerminalID"}) {
+        QCOMPARE(shop.stored(key).toString(), expected.get(key).toString());
+    }
+}
+
+void PropertiesTest::terminalPages_data()
+{
+    QTest::addColumn<int>("protocol");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("port");
+    QTest::addColumn<QString>("page");
+    for (const int protocol : {11, 12, 13}) {
+        QTest::addRow("%d, nothing", protocol) << protocol << ""
+                                               << "0"
+                                               << "pageSerialPortSettings";
+        QTest::addRow("%d, last serial", protocol) << protocol << "99"
+                                                   << "99"
+                                                   << "pageSerialPortSettings";
+        QTest::addRow("%d, one too many", protocol) << protocol << "100"
+                                                    << "0"
+                                                    << "pageSerialPortSettings";
+        QTest::addRow("%d, device file", protocol) << protocol << "TTY"
+                                                   << "TTY"
+                                                   << "pageTtySettings";
+        QTest::addRow("%d, USB", protocol) << protocol << "USB"
+                                           << "USB"
+                                           << "pageUsbSettings";
+        QTest::addRow("%d, network", protocol)
+            << protocol << "TCPIP" << (protocol == 11 ? "TCPIP" : "0")
+            << (protocol == 11 ? "pageNetSettings" : "pageSerialPortSettings");
+    }
+}
+
+void PropertiesTest::terminalPages()
+{
+    QFETCH(int, protocol);
+    QFETCH(QString, stored);
+    QFETCH(QString, port);
+    QFETCH(QString, page);
+    Register shop({{"Protocol", protocol}, {"Port", stored}});
+    const auto look = [&](QWidget *window) {
+        QCOMPARE(shown(window, "cmbPort"), port);
+        QCOMPARE(child<QStackedWidget>(window, "stackExtSettings")->currentWidget()->objectName(), page);
+        const QComboBox *ports = child<QComboBox>(window, "cmbPort");
+        QStringList first;
+        for (int i = 0; i < 4; ++i) {
+            first += ports->itemText(i);
+        }
+        QCOMPARE(first.join(','), QString(protocol == 11 ? "TCP/IP,USB,Файл устройства,COM0"
+                                                         : "USB,Файл устройства,COM0,COM1"));
+        QCOMPARE(shown(window, "cmbSerialBaudrate"), QString("9600"));
+        QCOMPARE(shown(window, "cmbTtyBaudrate"), QString("9600"));
+        QCOMPARE(shown(window, "leUsbVid"), QString("0000"));
+    };
+    QCOMPARE(shop.run(ShowProperties,
+                      {press("pbtnSettingsButton"), look, press("pbtnCancel"), press("pbtnCancel")}),
+             0);
+}
+
+QTEST_MAIN(PropertiesTest)
+#include "tst_properties.moc"

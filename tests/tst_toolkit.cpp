@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "common/dialog_about.h"
+#include "common/nohelpbuttondialogs.h"
+
+#include "register.h"
+
+#include <QInputDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include <stdexcept>
+
+/// A dialog whose slot fails.
+class FailingDialog : public NoHelpButtonDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FailingDialog(bool atOnce)
+    {
+        if (atOnce) {
+            fail();
+        } else {
+            QTimer::singleShot(0, this, SLOT(fail()));
+        }
+    }
+
+private slots:
+    void fail()
+    {
+        guarded([] { throw 42; });
+        guarded([] { throw std::runtime_error("the second one"); });
+    }
+};
+
+class ToolkitTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void failingSlots();
+    void messageBoxes();
+    void inputs();
+    void files();
+    void about();
+
+private:
+    static bool hasHelpButton(const QWidget *window)
+    {
+        return window->windowFlags().testFlag(Qt::WindowContextHelpButtonHint);
+    }
+};
+
+void ToolkitTest::failingSlots()
+{
+    QCOMPARE(QString(NoHelpButtonDialog().metaObject()->className()), QString("NoHelpButtonDialog"));
+    QVERIFY(!hasHelpButton(std::make_unique<NoHelpButtonDialog>().get()));
+    for (const bool atOnce : {true, false}) {
+        FailingDialog dialog(atOnce);
+        int thrown = 0;
+        try {
+            dialog.exec();
+        } catch (int number) {
+            thrown = number;
+        }
+        QCOMPARE(thrown, 42);
+        QVERIFY(!dialog.isVisible());
+        // What was thrown on is gone.
+        QTimer::singleShot(0, &dialog, SLOT(accept()));
+        QCOMPARE(dialog.exec(), static_cast<int>(QDialog::Accepted));
+    }
+}
+
+void ToolkitTest::messageBoxes()
+{
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QString shown;
+    bool isDefault = false;
+    const auto answer = [&](QMessageBox::StandardButton button, const std::function<int()> &ask) {
+        ModalScript script({[&](QWidget *window) {
+            QMessageBox *box = qobject_cast<QMessageBox *>(window);
+            icon = box->icon();
+            shown = QString("%1|%2|%3").arg(box->windowTitle(), box->text()).arg(int(box->standardButtons()));
+            isDefault = box->defaultButton() == box->button(button);
+            QVERIFY(!hasHelpButton(box));
+            box->button(button)->click();
+        }});
+        return script.run(ask);
+    };
+    const auto buttons = QMessageBox::Yes | QMessageBox::No;
+    QCOMPARE(answer(QMessageBox::Ok, [] { return NoHelpButtonMessageBox::critical(nullptr, "T", "t"); }),
+             static_cast<int>(QMessageBox::Ok));
+    QCOMPARE(shown, QString("T|t|%1").arg(int(QMessageBox::Ok)));
+    QVERIFY(isDefault);
+    QCOMPARE(icon, QMessageBox::Critical);
+    QCOMPARE(
+        answer(QMessageBox::Yes,
+               [=] { return NoHelpButtonMessageBox::warning(nullptr, "T", "t", buttons, QMessageBox::No); }),
+        static_cast<int>(QMessageBox::Yes));
+    QCOMPARE(shown, QString("T|t|%1").arg(int(buttons)));
+    QVERIFY(!isDefault);
+    QCOMPARE(icon, QMessageBox::Warning);
+    answer(QMessageBox::Ok, [] { return NoHelpButtonMessageBox::information(nullptr, "T", "t"); });
+    QCOMPARE(icon, QMessageBox::Information);
+    QCOMPARE(answer(QMessageBox::No, [] { return NoHelpButtonMessageBox::question(nullptr, "T", "t"); }),
+             static_cast<int>(QMessageBox::No));
+    QCOMPARE(icon, QMessageBox::Question);
+}
+
+void ToolkitTest::inputs()
+{
+    QString seen;
+    const auto play = [&](bool accept, const std::function<int()> &call) {
+        ModalScript script({[&](QWidget *window) {
+            QInputDialog *dialog = qobject_cast<QInputDialog *>(window);
+            seen = QString("%1 %2 %3")
+                       .arg(dialog->inputMode())
+                       .arg(dialog->labelText())
+                       .arg(hasHelpButton(dialog));
+            if (QSpinBox *spin = dialog->findChild<QSpinBox *>()) {
+                spin->setValue(1000);
+            }
+            accept ? dialog->accept() : dialog->reject();
+        }});
+        return script.run(call);
+    };
+    bool ok = false;
+    QString text;
+    const auto getText = [&] {
+        text = NoHelpButtonInputDialog::getText(nullptr, "T", "l", QLineEdit::Normal, "начало", &ok);
+        return 0;
+    };
+    play(true, getText);
+    QVERIFY(ok && text == "начало" && seen == "0 l 0");
+    play(false, getText);
+    QVERIFY(!ok && text.isNull());
+
+    // The limits and the value go to the other inputs: the integer one keeps its own range.
+    const auto getInt = [&] {
+        return NoHelpButtonInputDialog::getInt(nullptr, "T", "l", &ok, 5, -10, 10000);
+    };
+    QCOMPARE(play(true, getInt), 99);
+    QVERIFY(!ok && seen == "1 l 0");
+    ok = true;
+    QCOMPARE(play(false, getInt), 0);
+    QVERIFY(!ok);
+
+    double number = 0;
+    const auto getDouble = [&] {
+        number = NoHelpButtonInputDialog::getDouble(nullptr, "T", "l", &ok, 1234.5678, 0, 10);
+        return 0;
+    };
+    play(true, getDouble);
+    QVERIFY(ok && seen == "2 l 0");
+    QCOMPARE(number, 1234.57);
+    play(false, getDouble);
+    QVERIFY(!ok && number == 0.0);
+}
+
+void ToolkitTest::files()
+{
+    QTemporaryDir directory;
+    const QString path = directory.path();
+    QString offered;
+    QString filter = "Б (*.b)";
+    const auto play = [&](bool accept, const std::function<QString()> &call) {
+        QString chosen;
+        ModalScript script({[&](QWidget *window) {
+            QFileDialog *dialog = qobject_cast<QFileDialog *>(window);
+            offered = dialog->findChild<QLineEdit *>("fileNameEdit")->text() + '|' + dialog->windowTitle() +
+                      (hasHelpButton(dialog) ? "|?" : "") +
+                      (dialog->testOption(QFileDialog::ShowDirsOnly) ? "|dirs" : "");
+            if (!filter.isEmpty()) {
+                dialog->selectNameFilter("А (*.a)");
+            }
+            accept ? static_cast<QDialog *>(dialog)->accept() : dialog->reject();
+        }});
+        script.run([&] {
+            chosen = call();
+            return 0;
+        });
+        return chosen;
+    };
+    const auto save = [&](const QString &target) {
+        return play(true,
+                    [&] { return NoHelpButtonFileDialog::getSaveFileName(nullptr, "T", path + target); });
+    };
+    QCOMPARE(save("/a.tar.gz"), path + "/a.tar.gz");
+    QCOMPARE(offered, QString("a.tar.gz|T"));
+    QCOMPARE(save("/report"), path + "/report.");
+    QCOMPARE(save(QString()), path + "/" + QFileInfo(path).fileName() + ".");
+
+    const auto open = [&] {
+        return NoHelpButtonFileDialog::getOpenFileName(nullptr, "T", path, "А (*.a);;Б (*.b)", &filter);
+    };
+    QVERIFY(play(false, open).isNull());
+    QCOMPARE(filter, QString("Б (*.b)")); // the choice was cancelled
+    QVERIFY(QFile(path + "/x.a").open(QIODevice::WriteOnly));
+    const auto save2 = [&] {
+        return NoHelpButtonFileDialog::getSaveFileName(nullptr, "T", path + "/new.a", "А (*.a);;Б (*.b)",
+                                                       &filter);
+    };
+    QCOMPARE(play(true, save2), path + "/new.a");
+    QCOMPARE(filter, QString("А (*.a)"));
+
+    filter.clear();
+    QCOMPARE(play(true, [&] { return NoHelpButtonFileDialog::getExistingDirectory(nullptr, "T", path); }),
+             path);
+    QVERIFY2(offered.endsWith("|T|dirs"), qPrintable(offered));
+    play(false, [&] {
+        return NoHelpButtonFileDialog::getExistingDirectory(nullptr, "T", path, QFileDialog::Options());
+    });
+    QVERIFY2(offered.endsWith("|T"), qPrintable(offered));
+}
+
+void ToolkitTest::about()
+{
+    DialogAbout own("Драйвер", "1.0", nullptr);
+    QCOMPARE(child<QLabel>(&own, "label_driver")->text(), QString("Драйвер\n1.0"));
+    QCOMPARE(child<QLabel>(&own, "label_gui")->text(), QString("ОРМА: Драйвер интерфейса\n9.11.2.6032"));
+    QVERIFY(!child<QWidget>(&own, "header_container")->styleSheet().isEmpty());
+    QTreeWidget *table = child<QTreeWidget>(&own, "tree_license");
+    QCOMPARE(table->topLevelItemCount(), 9);
+    QStringList rows;
+    for (int i = 0; i < 9; ++i) {
+        QTreeWidgetItem *item = table->topLevelItem(i);
+        QLabel *licence = qobject_cast<QLabel *>(table->itemWidget(item, 2));
+        QVERIFY(licence->openExternalLinks());
+        rows +=
+            item->text(0) + ' ' + item->text(1) + ' ' + licence->text().section('>', 1, 1).section('<', 0, 0);
+    }
+    QCOMPARE(
+        rows.join(", "),
+        QString(
+            "Qt 4.8.7 LGPL, CxImage 7.0.1 Zlib/libpng, libpng 1.6.10 Zlib/libpng, zlib 1.2.8 Zlib/libpng, "
+            "tinyxml2 1.0.9 Zlib/libpng, Tesra 94.10.6 , libusb 1.0.19 LGPLv2, cURL 7.32.0 MIT, "
+            "OpenSSL 1.0.1e OpenSSL"));
+    ModalScript script({press("OK")});
+    QCOMPARE(script.run([&] { return own.exec(); }), static_cast<int>(QDialog::Accepted));
+
+    DialogAbout other(QString(), "1.0", "Модуль", QString(), nullptr);
+    QCOMPARE(child<QLabel>(&other, "label_driver")->text(), QString());
+    QCOMPARE(child<QLabel>(&other, "label_gui")->text(), QString("Модуль"));
+    QVERIFY(child<QWidget>(&other, "header_container")->styleSheet().isEmpty());
+}
+
+QTEST_MAIN(ToolkitTest)
+#include "tst_toolkit.moc"

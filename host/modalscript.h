@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef MODALSCRIPT_H
+#define MODALSCRIPT_H
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+/// Plays the user of modal windows: each step waits until a modal window is open and shown that the previous
+/// step did not have, or that it left open, and gets it. A step may end the window, open another one from it,
+/// or read it. So a call that runs a nested event loop can be driven from beginning to end in one thread.
+class ModalScript : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Gets the modal window that is open. Must not run an event loop itself: windows are opened by queued
+    /// clicks (see press()).
+    typedef std::function<void(QWidget *)> Step;
+
+    explicit ModalScript(std::vector<Step> steps);
+
+    /// Calls `function`, plays the steps on the windows that it opens, and returns its result. When the steps
+    /// have run out, or nothing happens for `timeout` milliseconds, every modal window left is closed, so
+    /// that the call always returns.
+    int run(const std::function<int()> &function, int timeout = 5000);
+
+    /// True when every step was played and no window had to be closed.
+    bool completed() const;
+
+    /// Clicks a button of the window once the current step has returned. False if there is no such button or
+    /// it is disabled. The button is given by its object name, or by its caption without the ampersand.
+    static bool press(QWidget *window, const QString &button);
+
+private:
+    void poll();
+    void playNext(QWidget *window);
+    void end(QWidget *window);
+
+    std::vector<Step> steps;
+    std::size_t next = 0;
+    /// Set once a window has to be closed; from then on no step is played.
+    bool closing = false;
+    /// The window that was asked to close last.
+    QPointer<QWidget> asked;
+    int patience = 0;
+    QElapsedTimer sinceLastStep;
+    QTimer timer;
+};
+
+#endif

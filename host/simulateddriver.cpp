@@ -1,0 +1,422 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "simulateddriver.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <climits>
+#include <cstring>
+#include <stdexcept>
+#include <string>
+
+// A resource of a static library has to be asked for, from outside any namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(host);
+}
+
+namespace {
+
+const int JournalLimit = 10000;
+const char *const EmptyDocument = "<settings version=\"2\">\n</settings>\n";
+
+/// Codes of the driver's own failures.
+enum ResultCode { Success = 0, MalformedSettings = 101, SettingsNotSaved = 102, NoSuchOperator = 103 };
+
+Failure refusal(ResultCode code, const QString &text = QString(), const QString &detail = QString())
+{
+    return {Fault::Refuse, code, text, detail};
+}
+
+QString describe(const Failure &failure)
+{
+    const QString base = QStringLiteral("[%1] %2").arg(QString::number(failure.code), failure.text);
+    return failure.detail.isEmpty() ? base : QStringLiteral("%1 (%2)").arg(base, failure.detail);
+}
+
+/// The operations that tell of the last failure: their own failures must not take its place.
+bool tellsOfFailure(const char *name)
+{
+    return std::strncmp(name, "getResult", 9) == 0 || std::strncmp(name, "getError", 8) == 0;
+}
+
+/// Copies what fits. A text that is as long as the buffer leaves no room for the closing zero and is complete
+/// all the same; one that is longer is cut and closed.
+int copyOut(const QString &text, wchar_t *buffer, int size)
+{
+    const std::wstring wide = text.toStdWString();
+    const int length = static_cast<int>(wide.size());
+    if (buffer && size > 0) {
+        const int copied = length > size ? size - 1 : length;
+        std::copy_n(wide.begin(), copied, buffer);
+        if (copied < size) {
+            buffer[copied] = L'\0';
+        }
+    }
+    return length;
+}
+
+QString fromWide(const wchar_t *text)
+{
+    return text ? QString::fromWCharArray(text) : QString();
+}
+
+QString portChoices()
+{
+    QString choices =
+        QStringLiteral("TCPIP:TCP/IP;UDPIP:UDP/IP;BT:Bluetooth;USB:USB:терминал;TTY:Файл устройства;");
+    for (int port = 0; port < 100; ++port) {
+        choices += QStringLiteral("%1:COM%1;").arg(port);
+    }
+    return choices;
+}
+
+QString choicesOf(const QString &setting)
+{
+    static const QMap<QString, QString> choices = {
+        {"Protocol", "0:Файловый обмен;1:Ручной ввод;2:CyberPlat: оплата услуг;3:Пинпад (протокол 3);"
+                     "4:Пинпад (протокол 4);5:Банковский шлюз (протокол 5);6:ARCOM ARCUS2;"
+                     "7:Файловый обмен с подтверждением;8:INPAS SmartSale (LumiPay);9:ARCOM ARCUS2 (LumiPay);"
+                     "10:Сбербанк (LumiPay);11:Сбербанк;12:INPAS SmartSale;13:ARCOM ARCUS2 (терминал);"},
+        {"Model", "0:Учебный пинпад;1:Учебный терминал;2:Учебный терминал с принтером;"},
+        {"Port", portChoices()},
+        {"BaudRate", "1200:1200;2400:2400;4800:4800;9600:9600;19200:19200;38400:38400;57600:57600;"
+                     "115200:115200;"},
+    };
+    return choices.value(setting);
+}
+
+} // namespace
+
+SimulatedDriver::Document::Document(const QString &xml) : text(xml), content(xml), shown(content.toPeople())
+{
+}
+
+QStringList SimulatedDriver::operations()
+{
+    return QStringLiteral(
+               "getVersion getDriverName setPropertiesShown getResultCode getResultDescription "
+               "getErrorDetail getErrorDetailDescription getSettings setSettings getSettingValue "
+               "getSettingChoices getOperation getSum getPhoneNumber getReference getAccountNumber "
+               "getCommission setOperatorIndex getOperatorName getOperatorMinSum "
+               "getOperatorMaxSum getOperatorCommissionType getOperatorCommission")
+        .split(QLatin1Char(' '));
+}
+
+QStringList SimulatedDriver::faults()
+{
+    return {"отказ",
+            "нет текста",
+            "текст всё длиннее",
+            "длина — наибольшее целое",
+            "текст без завершающего нуля",
+            "исключение std::runtime_error",
+            "исключение типа int"};
+}
+
+QStringList SimulatedDriver::samples()
+{
+    initResources();
+    return QDir(QStringLiteral(":/samples")).entryList().replaceInStrings(QStringLiteral(".xml"), QString());
+}
+
+QString SimulatedDriver::sample(const QString &name)
+{
+    initResources();
+    QFile file(QStringLiteral(":/samples/%1.xml").arg(name));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+SimulatedDriver::SimulatedDriver() : document(EmptyDocument), last(refusal(Success)) {}
+
+bool SimulatedDriver::openSettings(const QString &newPath, QString *reason)
+{
+    QFile file(newPath);
+    QString problem;
+    QString text = EmptyDocument;
+    if (file.open(QIODevice::ReadOnly)) {
+        text = QString::fromUtf8(file.readAll());
+    } else if (file.exists()) {
+        problem = QStringLiteral("файл не читается: %1").arg(file.errorString());
+    }
+    const Document opened(text);
+    if (!opened.content.isValid()) {
+        problem = QStringLiteral("документ испорчен: %1").arg(opened.content.errorPlace());
+    } else if (text.contains(QChar::ReplacementCharacter)) {
+        problem = QStringLiteral("кодировка не UTF-8");
+    }
+    if (problem.isEmpty()) {
+        document = opened;
+        path = newPath;
+    } else if (reason) {
+        *reason = QStringLiteral("Настройки %1 не открыты: %2").arg(newPath, problem);
+    }
+    return problem.isEmpty();
+}
+
+bool SimulatedDriver::replaceSettings(const QString &xml, QString *reason)
+{
+    const Failure failure = replaceDocument(xml);
+    if (failure.code != Success && reason) {
+        *reason = describe(failure);
+    }
+    return failure.code == Success;
+}
+
+Failure SimulatedDriver::replaceDocument(const QString &xml)
+{
+    const Document replacement(xml);
+    if (!replacement.content.isValid()) {
+        return refusal(MalformedSettings, QStringLiteral("Документ настроек не читается"),
+                       replacement.content.errorPlace());
+    }
+    if (!path.isEmpty()) {
+        QSaveFile file(path);
+        const QByteArray bytes = xml.toUtf8();
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+            return refusal(SettingsNotSaved, QStringLiteral("Настройки не сохранены"),
+                           QStringLiteral("%1: %2").arg(path, file.errorString()));
+        }
+    }
+    document = replacement;
+    return refusal(Success);
+}
+
+void SimulatedDriver::failOperation(const QString &name, const Failure &failure)
+{
+    inForce.insert(name, failure);
+}
+
+void SimulatedDriver::writeDown(const char *name, const QString &arguments, const QString &result)
+{
+    if (calls.size() >= JournalLimit) {
+        calls.removeFirst();
+    }
+    calls.append({name, arguments, result});
+    if (onCall) {
+        onCall();
+    }
+}
+
+// What a fault writes makes sense for texts only; the other operations give its result.
+std::optional<int> SimulatedDriver::playFailure(const char *name, const QString &arguments, wchar_t *buffer,
+                                                int size)
+{
+    if (!inForce.contains(name)) {
+        return std::nullopt;
+    }
+    // A copy, because the host may clear the failures when it hears of the call.
+    const Failure failure = inForce.value(name);
+    writeDown(
+        name, arguments,
+        QStringLiteral("сбой «%1»: %2").arg(faults().at(static_cast<int>(failure.fault)), describe(failure)));
+    switch (failure.fault) {
+    case Fault::Refuse:
+        if (!tellsOfFailure(name)) {
+            last = failure;
+        }
+        return -1;
+    case Fault::NoText:
+        return 0;
+    case Fault::EverLonger:
+        return size + 1;
+    case Fault::LargestInt:
+        return INT_MAX;
+    case Fault::Unterminated:
+        if (buffer) {
+            std::fill_n(buffer, std::max(size, 0), L'Ж');
+        }
+        return size;
+    case Fault::ThrowStandard:
+        throw std::runtime_error(failure.text.toStdString());
+    case Fault::ThrowOther:
+        throw failure.code;
+    }
+    return std::nullopt;
+}
+
+int SimulatedDriver::giveText(const char *name, const QString &subject, const QString &text,
+                              const QString &shown, wchar_t *buffer, int size)
+{
+    const QString arguments = subject + QStringLiteral("буфер %1").arg(size);
+    if (const auto result = playFailure(name, arguments, buffer, size)) {
+        return *result;
+    }
+    const int length = copyOut(text, buffer, size);
+    writeDown(name, arguments,
+              QStringLiteral("%1%2: «%3»")
+                  .arg(QString::number(length),
+                       length > size ? QStringLiteral(", не поместилось") : QString(), shown));
+    return length;
+}
+
+int SimulatedDriver::giveText(const char *name, const QString &text, wchar_t *buffer, int size)
+{
+    return giveText(name, QString(), text, text, buffer, size);
+}
+
+template <class Number>
+int SimulatedDriver::giveNumber(const char *name, Number value, Number *out)
+{
+    if (const auto result = playFailure(name, QString())) {
+        return *result;
+    }
+    if (out) {
+        *out = value;
+    }
+    writeDown(name, QString(), QString::number(value));
+    return 0;
+}
+
+int SimulatedDriver::obey(const char *name, const QString &arguments, const std::function<Failure()> &action)
+{
+    if (const auto result = playFailure(name, arguments)) {
+        return *result;
+    }
+    last = action();
+    writeDown(name, arguments, last.code == Success ? QStringLiteral("выполнено") : describe(last));
+    return last.code == Success ? 0 : -1;
+}
+
+QString SimulatedDriver::operatorValue(const char *key) const
+{
+    const QString record = QStringLiteral("Operator%1").arg(operation.operatorIndex);
+    return SettingsDocument(document.content.value(record)).value(key);
+}
+
+// The operations are written down under the names of their functions.
+
+int SimulatedDriver::getVersion(wchar_t *buffer, int size)
+{
+    return giveText(__func__, QStringLiteral("1.0"), buffer, size);
+}
+
+int SimulatedDriver::getDriverName(wchar_t *buffer, int size)
+{
+    return giveText(__func__, QStringLiteral("Учебный драйвер платёжных карт"), buffer, size);
+}
+
+int SimulatedDriver::setPropertiesShown(int shown)
+{
+    return obey(__func__, QString::number(shown), [=] {
+        shownFlag = shown;
+        return refusal(Success);
+    });
+}
+
+int SimulatedDriver::getResultCode(int *code)
+{
+    return giveNumber(__func__, last.code, code);
+}
+
+int SimulatedDriver::getResultDescription(wchar_t *buffer, int size)
+{
+    return giveText(__func__, last.text, buffer, size);
+}
+
+int SimulatedDriver::getErrorDetail(int *detail)
+{
+    return giveNumber(__func__, last.detail.isEmpty() ? 0 : 1, detail);
+}
+
+int SimulatedDriver::getErrorDetailDescription(wchar_t *buffer, int size)
+{
+    return giveText(__func__, last.detail, buffer, size);
+}
+
+int SimulatedDriver::getSettings(wchar_t *buffer, int size)
+{
+    return giveText(__func__, QString(), document.text, document.shown, buffer, size);
+}
+
+int SimulatedDriver::setSettings(const wchar_t *xml)
+{
+    const QString text = fromWide(xml);
+    return obey(__func__, SettingsDocument(text).toPeople(), [&] { return replaceDocument(text); });
+}
+
+int SimulatedDriver::getSettingValue(const wchar_t *name, wchar_t *buffer, int size)
+{
+    const QString setting = fromWide(name);
+    const QString value = document.content.value(setting);
+    const QString shown = SettingsDocument::shown({setting, value, SettingsDocument::isSecret(setting)});
+    return giveText(__func__, QStringLiteral("«%1», ").arg(setting), value, shown, buffer, size);
+}
+
+int SimulatedDriver::getSettingChoices(const wchar_t *name, wchar_t *buffer, int size)
+{
+    const QString setting = fromWide(name);
+    const QString choices = choicesOf(setting);
+    return giveText(__func__, QStringLiteral("«%1», ").arg(setting), choices, choices, buffer, size);
+}
+
+int SimulatedDriver::getOperation(int *code)
+{
+    return giveNumber(__func__, operation.code, code);
+}
+
+int SimulatedDriver::getSum(double *sum)
+{
+    return giveNumber(__func__, operation.sum, sum);
+}
+
+int SimulatedDriver::getPhoneNumber(wchar_t *buffer, int size)
+{
+    return giveText(__func__, operation.phone, buffer, size);
+}
+
+int SimulatedDriver::getReference(wchar_t *buffer, int size)
+{
+    return giveText(__func__, operation.reference, buffer, size);
+}
+
+int SimulatedDriver::getAccountNumber(wchar_t *buffer, int size)
+{
+    return giveText(__func__, operation.account, buffer, size);
+}
+
+int SimulatedDriver::getCommission(double *commission)
+{
+    return giveNumber(__func__, operation.commission, commission);
+}
+
+int SimulatedDriver::setOperatorIndex(int index)
+{
+    return obey(__func__, QString::number(index), [=] {
+        const int count = document.content.value(QStringLiteral("Operators")).toInt();
+        if (index < 0 || index >= count) {
+            return refusal(NoSuchOperator, QStringLiteral("Нет такого оператора"),
+                           QStringLiteral("номер %1, операторов %2").arg(index).arg(count));
+        }
+        operation.operatorIndex = index;
+        return refusal(Success);
+    });
+}
+
+int SimulatedDriver::getOperatorName(wchar_t *buffer, int size)
+{
+    return giveText(__func__, operatorValue("Name"), buffer, size);
+}
+
+int SimulatedDriver::getOperatorMinSum(double *sum)
+{
+    return giveNumber(__func__, operatorValue("MinSum").toDouble(), sum);
+}
+
+int SimulatedDriver::getOperatorMaxSum(double *sum)
+{
+    return giveNumber(__func__, operatorValue("MaxSum").toDouble(), sum);
+}
+
+int SimulatedDriver::getOperatorCommissionType(int *type)
+{
+    return giveNumber(__func__, operatorValue("ComissionType").toInt(), type);
+}
+
+// The stored key has a single "m".
+int SimulatedDriver::getOperatorCommission(double *commission)
+{
+    return giveNumber(__func__, operatorValue("Comission").toDouble(), commission);
+}

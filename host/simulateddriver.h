@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef SIMULATEDDRIVER_H
+#define SIMULATEDDRIVER_H
+
+#include "common/ipaycard.h"
+#include "settingsdocument.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+/// How an operation of the simulated driver is made to fail.
+enum class Fault {
+    Refuse,        ///< gives -1; the code, text and detail are asked for afterwards
+    NoText,        ///< gives 0 and writes nothing
+    EverLonger,    ///< reports one character more than the buffer holds, each time
+    LargestInt,    ///< reports the largest int as the length
+    Unterminated,  ///< fills the buffer to its end without a closing zero
+    ThrowStandard, ///< throws std::runtime_error with the text
+    ThrowOther     ///< throws an int, the code
+};
+
+/// A fault together with what the driver says of it.
+struct Failure
+{
+    Fault fault = Fault::Refuse;
+    int code = 1;
+    QString text;
+    QString detail;
+};
+
+/// The payment or other operation under way. Amounts in roubles.
+struct Operation
+{
+    int code = 0;
+    double sum = 0.0;
+    double commission = 0.0;
+    QString reference;
+    QString phone;
+    QString account;
+    /// Index of the operator's record in the settings, -1 for none.
+    int operatorIndex = -1;
+};
+
+/// One call that the library made.
+struct DriverCall
+{
+    QString operation;
+    /// Arguments and outcome for people; passwords are masked.
+    QString arguments;
+    QString result;
+};
+
+/// A payment-card driver without a card reader: keeps the settings in a file, answers from the operation that
+/// it is given, writes down every call and fails where it is told to. Follows the driver contract: full
+/// lengths, zero-terminated texts, code, text and detail after a failure.
+class SimulatedDriver final : public NOX::PayCard::IPayCard
+{
+public:
+    /// Names of the operations, in the order in which the interface declares them.
+    static QStringList operations();
+    /// Names of the faults for people, in the order of the enumeration.
+    static QStringList faults();
+
+    /// Names of the sample documents, and the text of one of them.
+    static QStringList samples();
+    static QString sample(const QString &name);
+
+    /// Keeps the settings in memory only.
+    SimulatedDriver();
+
+    /// Reads the settings from this file, from now on the place that setSettings() saves them to. A file that
+    /// does not exist yet is an empty document. False, with the reason, when it cannot be read or is
+    /// malformed; the driver then stays as it was.
+    bool openSettings(const QString &path, QString *reason);
+
+    /// That file, or nothing while the settings are kept in memory only.
+    QString settingsFile() const { return path; }
+    /// Saves no more, and leaves the file as it is.
+    void closeSettings() { path.clear(); }
+
+    /// The current document, and a way to replace it as setSettings() does. False, with the reason, when it
+    /// is refused.
+    QString settings() const { return document.text; }
+    bool replaceSettings(const QString &xml, QString *reason);
+
+    Operation operation;
+
+    /// Makes an operation fail until clearFailures(); a later failure of the same operation replaces it.
+    void failOperation(const QString &name, const Failure &failure);
+    void clearFailures() { inForce.clear(); }
+    /// The failures in force, by operation.
+    const QMap<QString, Failure> &failures() const { return inForce; }
+
+    const QList<DriverCall> &journal() const { return calls; }
+    void clearJournal() { calls.clear(); }
+    /// Called after each call has been written down.
+    std::function<void()> onCall;
+
+    /// 1 or 0 as the library last said, -1 before it said anything.
+    int propertiesShown() const { return shownFlag; }
+
+    // the driver interface, in its order
+    int getVersion(wchar_t *buffer, int size) override;
+    int getDriverName(wchar_t *buffer, int size) override;
+    int setPropertiesShown(int shown) override;
+    int getResultCode(int *code) override;
+    int getResultDescription(wchar_t *buffer, int size) override;
+    int getErrorDetail(int *detail) override;
+    int getErrorDetailDescription(wchar_t *buffer, int size) override;
+    int getSettings(wchar_t *buffer, int size) override;
+    int setSettings(const wchar_t *xml) override;
+    int getSettingValue(const wchar_t *name, wchar_t *buffer, int size) override;
+    int getSettingChoices(const wchar_t *name, wchar_t *buffer, int size) override;
+    int getOperation(int *code) override;
+    int getSum(double *sum) override;
+    int getPhoneNumber(wchar_t *buffer, int size) override;
+    int getReference(wchar_t *buffer, int size) override;
+    int getAccountNumber(wchar_t *buffer, int size) override;
+    int getCommission(double *commission) override;
+    int setOperatorIndex(int index) override;
+    int getOperatorName(wchar_t *buffer, int size) override;
+    int getOperatorMinSum(double *sum) override;
+    int getOperatorMaxSum(double *sum) override;
+    int getOperatorCommissionType(int *type) override;
+    int getOperatorCommission(double *commission) override;
+
+private:
+    /// A settings document together with what depends on its text only.
+    struct Document
+    {
+        explicit Document(const QString &xml);
+
+        QString text;
+        SettingsDocument content;
+        /// The text for people.
+        QString shown;
+    };
+
+    // The shapes of the operations: each plays the failure in force or answers, and writes the call down.
+    std::optional<int> playFailure(const char *name, const QString &arguments, wchar_t *buffer = nullptr,
+                                   int size = 0);
+    int giveText(const char *name, const QString &subject, const QString &text, const QString &shown,
+                 wchar_t *buffer, int size);
+    int giveText(const char *name, const QString &text, wchar_t *buffer, int size);
+    template <class Number>
+    int giveNumber(const char *name, Number value, Number *out);
+    int obey(const char *name, const QString &arguments, const std::function<Failure()> &action);
+
+    Failure replaceDocument(const QString &xml);
+    /// A value of the current operator's record.
+    QString operatorValue(const char *key) const;
+    void writeDown(const char *name, const QString &arguments, const QString &result);
+
+    Document document;
+    QString path;
+    QMap<QString, Failure> inForce;
+    /// What the error operations tell of; code 0 after a success.
+    Failure last;
+    QList<DriverCall> calls;
+    int shownFlag = -1;
+};
+
+#endif

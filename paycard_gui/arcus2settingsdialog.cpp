@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "arcus2settingsdialog.h"
 
+#include "formutils.h"
 #include "ui_arcus2settingsdialog.h"
 
 namespace {
@@ -30,7 +31,7 @@ Arcus2SettingsDialog::~Arcus2SettingsDialog() = default;
 
 void Arcus2SettingsDialog::setError(const QString &text)
 {
-    ui->lbError->setText(text);
+    showError(ui->lbError, text);
 }
 
 void Arcus2SettingsDialog::resetError()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "cyberplatsettingsdialog.h"
 
+#include "formutils.h"
 #include "ui_cyberplatsettingsdialog.h"
 
 namespace {
@@ -25,7 +26,7 @@ SettingField textOrDefault(const QString &key, QLineEdit *edit, const QString &d
     return {key,
             [=](const QVariant &stored) {
                 const QString text = stored.toString();
-                edit->setText(text.isEmpty() ? def : text);
+                showText(edit, text.isEmpty() ? def : text);
             },
             [=] { return edit->text(); }};
 }
@@ -43,6 +44,7 @@ CyberPlatSettingsDialog::CyberPlatSettingsDialog(QNoxSettings &document, QWidget
     : SettingsDialog(document, parent), ui(new Ui_CyberPlatSettingsDialog)
 {
     ui->setupUi(this);
+    alignLabels(this);
     connect(ui->leURL, SIGNAL(textChanged(QString)), SLOT(checkState()));
     connect(ui->leProxyServer, SIGNAL(textChanged(QString)), SLOT(checkState()));
     connect(ui->leKeyLoadPwd, SIGNAL(textChanged(QString)), SLOT(checkState()));
@@ -68,7 +70,7 @@ CyberPlatSettingsDialog::~CyberPlatSettingsDialog() = default;
 
 void CyberPlatSettingsDialog::setError(const QString &text)
 {
-    ui->lbError->setText(tr("Ошибка: ") + text);
+    showError(ui->lbError, tr("Ошибка: ") + text);
 }
 
 void CyberPlatSettingsDialog::resetError()

@@ -2,6 +2,7 @@
 #include "operatordialog.h"
 
 #include "common/qt_utils.h"
+#include "formutils.h"
 #include "mappinglist.h"
 #include "operatorrecords.h"
 #include "ui_operatordialog.h"
@@ -29,6 +30,7 @@ OperatorDialog::OperatorDialog(QNoxSettings &record, QWidget *parent)
     : SettingsDialog(record, parent), ui(new Ui_OperatorDialog)
 {
     ui->setupUi(this);
+    alignLabels(this);
     fillChoices();
     connect(ui->leName, SIGNAL(textChanged(QString)), SLOT(checkState()));
     connect(ui->leCode, SIGNAL(textChanged(QString)), SLOT(checkState()));
@@ -54,6 +56,7 @@ OperatorDialog::OperatorDialog(QNoxSettings &record, QWidget *parent)
     };
     loadSettings();
     checkState();
+    adjustSize();
 }
 
 OperatorDialog::~OperatorDialog() = default;
@@ -73,7 +76,7 @@ void OperatorDialog::fillChoices()
 
 void OperatorDialog::setError(const QString &text)
 {
-    ui->lbError->setText(tr("Ошибка: ") + text);
+    showError(ui->lbError, tr("Ошибка: ") + text);
 }
 
 void OperatorDialog::resetError()

@@ -9,6 +9,9 @@
 
 namespace {
 
+/// Characters of a name that the list shows at least.
+const int NameWidth = 36;
+
 /// An item shows the operator's name and carries its record.
 void setRecord(QListWidgetItem *item, const QNoxSettings &record)
 {
@@ -31,6 +34,8 @@ OperatorListDialog::OperatorListDialog(QNoxSettings &document, QWidget *parent)
     ui->setupUi(this);
     loadSettings();
     enableEditing(false);
+    // The list itself asks for a width that knows nothing of the font.
+    ui->lwOperators->setMinimumWidth(fontMetrics().averageCharWidth() * NameWidth);
     adjustSize();
 }
 

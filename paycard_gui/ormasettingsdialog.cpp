@@ -3,6 +3,7 @@
 
 #include "common/qnoxsettings.h"
 #include "common/qt_utils.h"
+#include "formutils.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -95,6 +96,7 @@ void OrmaSettingsDialog::fillForm(QComboBox *ports, QStackedWidget *pages, const
     portBox = ports;
     pageStack = pages;
     portKinds = kinds;
+    alignLabels(this);
     QString choices;
     for (const PortKind &kind : portKinds) {
         choices += kind.choices;

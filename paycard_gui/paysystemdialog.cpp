@@ -8,11 +8,13 @@
 #include "common/qt_utils.h"
 #include "common/scopeddialog.h"
 #include "cyberplatsettingsdialog.h"
+#include "formutils.h"
 #include "inpaslumipaysettingsdialog.h"
 #include "inpasormasettingsdialog.h"
 #include "operatorlistdialog.h"
 #include "sberbanklumipaysettingsdialog.h"
 #include "sberbankormasettingsdialog.h"
+#include "settingfields.h"
 #include "slipdialog.h"
 #include "ui_paysystemdialog.h"
 
@@ -115,7 +117,7 @@ int PaySystemDialog::exec()
 
 void PaySystemDialog::setError(const QString &text)
 {
-    ui->lbError->setText(text);
+    showError(ui->lbError, text);
 }
 
 void PaySystemDialog::resetError()
@@ -136,7 +138,7 @@ void PaySystemDialog::loadSettings()
     strToComboBox(ui->cmbProtocol, protocols, false);
 
     QComboSelectIfCan(ui->cmbProtocol, settings.get(ProtocolKey).toString(), QLatin1String(DefaultProtocol));
-    ui->lePathACDialog->setText(settings.get(PathACKey).toString());
+    showText(ui->lePathACDialog, settings.get(PathACKey).toString());
     ui->spinTimeout->setValue(settings.get(TimeoutKey).toInt());
 }
 

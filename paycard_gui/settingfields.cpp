@@ -11,6 +11,12 @@
 
 #include <utility>
 
+void showText(QLineEdit *edit, const QString &text)
+{
+    edit->setText(text);
+    edit->setCursorPosition(0);
+}
+
 SettingField::SettingField(const QString &name, std::function<void(const QVariant &)> showValue,
                            std::function<QVariant()> currentValue, const QVariant &defaultValue)
     : key(name), show(std::move(showValue)), value(std::move(currentValue)), def(defaultValue)
@@ -19,7 +25,7 @@ SettingField::SettingField(const QString &name, std::function<void(const QVarian
 
 SettingField::SettingField(const QString &name, QLineEdit *edit, const QString &defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { edit->setText(stored.toString()); },
+          name, [=](const QVariant &stored) { showText(edit, stored.toString()); },
           [=] { return edit->text(); }, defaultValue)
 {
 }

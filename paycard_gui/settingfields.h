@@ -40,6 +40,9 @@ private:
     QVariant def;
 };
 
+/// Shows a text from its beginning, also when the edit is too narrow for it.
+void showText(QLineEdit *edit, const QString &text);
+
 /// The settings of a form, which are loaded and saved in this order.
 typedef std::vector<SettingField> SettingFields;
 

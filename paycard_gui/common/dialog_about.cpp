@@ -3,8 +3,11 @@
 
 #include "ui_dialog_about.h"
 
+#include <QHeaderView>
 #include <QItemDelegate>
 #include <QPixmap>
+
+#include <algorithm>
 
 namespace {
 
@@ -109,6 +112,12 @@ void DialogAbout::setLicenseInfo()
                            .arg(QString::fromLatin1(library.link), QString::fromLatin1(library.license)));
         license->setOpenExternalLinks(true);
         ui->tree_license->setItemWidget(item, 2, license);
+    }
+    for (int column = 0; column < ui->tree_license->columnCount(); ++column) {
+        // Wider than the default where the font asks for it.
+        ui->tree_license->resizeColumnToContents(column);
+        ui->tree_license->setColumnWidth(column, std::max(ui->tree_license->columnWidth(column),
+                                                          ui->tree_license->header()->defaultSectionSize()));
     }
 }
 

@@ -3,10 +3,15 @@
 
 #include "common/scopeddialog.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QPointer>
+#include <QPushButton>
+#include <QToolButton>
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -20,6 +25,21 @@ void clearHelpButton(QWidget &window)
     window.setWindowFlags(window.windowFlags() & ~Qt::WindowContextHelpButtonHint);
 }
 
+void makeTouchable(QWidget &window)
+{
+    const QList<QWidget *> widgets = window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isPart =
+            qobject_cast<QAbstractSpinBox *>(widget->parent()) || qobject_cast<QComboBox *>(widget->parent());
+        const bool isButton = qobject_cast<QPushButton *>(widget) || qobject_cast<QToolButton *>(widget);
+        const bool isInput = qobject_cast<QComboBox *>(widget) || qobject_cast<QLineEdit *>(widget) ||
+                             qobject_cast<QAbstractSpinBox *>(widget);
+        if (!isPart && (isButton || isInput)) {
+            widget->setMinimumHeight(std::max<int>(widget->minimumHeight(), NoHelpButtonDialog::TouchHeight));
+        }
+    }
+}
+
 QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
                                           const QString &text, QMessageBox::StandardButtons buttons,
                                           QMessageBox::StandardButton defaultButton)
@@ -28,6 +48,7 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
                                   Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     clearHelpButton(*box);
     box->setDefaultButton(defaultButton);
+    makeTouchable(*box);
     return static_cast<QMessageBox::StandardButton>(box->exec());
 }
 
@@ -36,6 +57,7 @@ template <class Dialog>
 bool runToAcceptance(const ScopedDialog<Dialog> &dialog)
 {
     clearHelpButton(*dialog);
+    makeTouchable(*dialog);
     return dialog->exec() == QDialog::Accepted && dialog;
 }
 
@@ -102,6 +124,7 @@ int NoHelpButtonDialog::exec()
     const QPointer<NoHelpButtonDialog> self(this);
     int code = Rejected;
     if (failures.count(this) == 0) {
+        makeTouchable(*this);
         code = QDialog::exec();
     }
     if (!self) {

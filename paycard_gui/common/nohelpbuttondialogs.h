@@ -18,6 +18,9 @@ class PAYCARD_EXPORT NoHelpButtonDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// What a finger has to hit is at least this high, in pixels: registers have touch screens.
+    static const int TouchHeight = 32;
+
     explicit NoHelpButtonDialog(QWidget *parent = nullptr);
     ~NoHelpButtonDialog() override;
 

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "formutils.h"
+
+#include "common/nohelpbuttondialogs.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QMap>
+
+#include <algorithm>
+
+void showError(QLabel *line, const QString &text)
+{
+    line->setText(text);
+    QWidget *window = line->window();
+    QLayout *layout = window->layout();
+    // A window's layout sees to the height that wrapped texts need only when it is first shown.
+    layout->activate();
+    const int height =
+        layout->hasHeightForWidth() ? layout->totalHeightForWidth(window->width()) : window->height();
+    window->resize(window->width(), std::max(height, window->height()));
+}
+
+namespace {
+
+/// The column of its grid that the label is in; 0 in other layouts.
+int columnOf(QLabel *label)
+{
+    const QGridLayout *grid = qobject_cast<QGridLayout *>(label->parentWidget()->layout());
+    const int index = grid ? grid->indexOf(label) : -1;
+    int row = 0;
+    int column = 0;
+    int span = 0;
+    if (index >= 0) {
+        grid->getItemPosition(index, &row, &column, &span, &span);
+    }
+    return column;
+}
+
+} // namespace
+
+void alignLabels(QWidget *form)
+{
+    const QList<QLabel *> labels = form->findChildren<QLabel *>();
+    QMap<int, int> widths;
+    for (QLabel *label : labels) {
+        int &width = widths[columnOf(label)];
+        width = std::max(width, label->buddy() ? label->sizeHint().width() : 0);
+    }
+    for (QLabel *label : labels) {
+        if (label->buddy()) {
+            label->setMinimumSize(widths.value(columnOf(label)),
+                                  std::max<int>(label->sizeHint().height(), NoHelpButtonDialog::TouchHeight));
+        }
+    }
+}

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "librarypaycard.h"
+#include "simulateddriver.h"
+#include "windowtour.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDoubleSpinBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStyleOptionComboBox>
+#include <QTextEdit>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QtTest>
+
+/// What holds for every window at every font size: nothing is clipped, a finger and the Tab key reach
+/// everything, a screen reader has a name for it, and the window fits a register's screen.
+class LookTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void windows_data();
+    void windows();
+};
+
+namespace {
+
+/// The toolkit's font on a machine without a desktop, in points.
+const double FontSize = 9.0;
+
+template <class... Classes>
+bool isOneOf(const QWidget *widget)
+{
+    return (... || qobject_cast<const Classes *>(widget));
+}
+
+/// The widgets that the forms name: not the parts that the toolkit makes of them.
+QList<QWidget *> formWidgets(const QWidget *window)
+{
+    QList<QWidget *> widgets;
+    const QList<QWidget *> children = window->findChildren<QWidget *>();
+    for (QWidget *widget : children) {
+        const bool isPart = isOneOf<QAbstractSpinBox, QComboBox, QAbstractScrollArea>(widget->parentWidget());
+        if (widget->isVisible() && !isPart &&
+            !isOneOf<QAbstractScrollArea>(widget->parentWidget()->parentWidget())) {
+            widgets += widget;
+        }
+    }
+    return widgets;
+}
+
+bool takesInput(const QWidget *widget)
+{
+    return isOneOf<QAbstractButton, QComboBox, QAbstractSpinBox, QLineEdit, QTextEdit, QListWidget,
+                   QTreeWidget>(widget);
+}
+
+QString accessibleName(QWidget *widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+QRect placeOf(const QWidget *widget)
+{
+    return QRect(widget->mapTo(widget->window(), QPoint()), widget->size());
+}
+
+bool isClipped(const QWidget *widget)
+{
+    if (!widget->window()->rect().contains(placeOf(widget))) {
+        return true;
+    }
+    if (const QComboBox *combo = qobject_cast<const QComboBox *>(widget)) {
+        QStyleOptionComboBox option;
+        option.initFrom(combo);
+        const QRect text =
+            combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo);
+        return text.width() < combo->fontMetrics().boundingRect(combo->currentText()).width();
+    }
+    const QLabel *label = qobject_cast<const QLabel *>(widget);
+    if (label && label->wordWrap()) {
+        return label->height() < label->heightForWidth(label->width());
+    }
+    if (isOneOf<QLabel, QPushButton, QCheckBox, QAbstractSpinBox>(widget)) {
+        return widget->width() < widget->sizeHint().width() || widget->height() < widget->sizeHint().height();
+    }
+    return widget->width() < widget->minimumSizeHint().width() ||
+           widget->height() < widget->minimumSizeHint().height();
+}
+
+/// Problems of one widget, for people.
+QStringList problemsOf(QWidget *widget)
+{
+    QStringList problems;
+    if (isClipped(widget)) {
+        problems += "clipped";
+    }
+    if (takesInput(widget) && accessibleName(widget).isEmpty()) {
+        problems += "no accessible name";
+    }
+    if (isOneOf<QPushButton, QToolButton, QComboBox>(widget) && widget->height() < 32) {
+        problems += "too low for a finger";
+    }
+    return problems;
+}
+
+/// Problems of the way that the Tab key takes.
+QStringList tabProblems(const QWidget *window)
+{
+    QStringList problems;
+    QList<QWidget *> unreached;
+    const QList<QWidget *> widgets = formWidgets(window);
+    for (QWidget *widget : widgets) {
+        if (takesInput(widget) && widget->isEnabled() && widget->focusPolicy() & Qt::TabFocus) {
+            unreached += widget;
+        }
+    }
+    const QWidget *last = nullptr;
+    for (QWidget *next = window->nextInFocusChain(); next != window; next = next->nextInFocusChain()) {
+        if (!unreached.removeOne(next)) {
+            continue;
+        }
+        // Onwards is down, or to the right, be it at the top of the next column.
+        if (last && placeOf(next).top() < placeOf(last).bottom() &&
+            placeOf(next).left() < placeOf(last).right()) {
+            problems += QString("Tab goes back from %1 to %2").arg(last->objectName(), next->objectName());
+        }
+        last = next;
+    }
+    for (const QWidget *widget : unreached) {
+        problems += widget->objectName() + " is not reached by Tab";
+    }
+    return problems;
+}
+
+} // namespace
+
+void LookTest::windows_data()
+{
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<QSize>("screen");
+    QTest::newRow("100 %") << 1.0 << QSize(800, 600);
+    QTest::newRow("150 %") << 1.5 << QSize(1024, 768);
+    QTest::newRow("200 %") << 2.0 << QSize(1280, 1024);
+}
+
+void LookTest::windows()
+{
+    QFETCH(double, scale);
+    QFETCH(QSize, screen);
+    QFont font = QApplication::font();
+    font.setPointSizeF(FontSize * scale);
+    QApplication::setFont(font);
+
+    LibraryPaycard library;
+    QString reason;
+    QVERIFY2(library.load(LibraryPaycard::defaultPath(), &reason), qPrintable(reason));
+    Operation operation;
+    operation.sum = 500;
+    operation.operatorIndex = 0;
+
+    QStringList problems;
+    int visited = 0;
+    const QMap<QString, QString> missing =
+        visitWindows(library, operation, [&](const QString &name, QWidget *window) {
+            ++visited;
+            QCoreApplication::sendPostedEvents();
+            QStringList found = tabProblems(window);
+            const QList<QWidget *> widgets = formWidgets(window);
+            for (QWidget *widget : widgets) {
+                const QStringList own = problemsOf(widget);
+                if (!own.isEmpty()) {
+                    found +=
+                        QString("%1 %2: %3")
+                            .arg(widget->metaObject()->className(), widget->objectName(), own.join(", "));
+                }
+            }
+            if (window->width() > screen.width() || window->height() > screen.height()) {
+                found += QString("too large: %1 x %2").arg(window->width()).arg(window->height());
+            }
+            const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
+            if (std::none_of(buttons.begin(), buttons.end(),
+                             [](const QPushButton *button) { return button->isDefault(); })) {
+                found += "no default button";
+            }
+            for (const QString &problem : found) {
+                problems += name + ": " + problem;
+            }
+        });
+    QVERIFY2(problems.isEmpty(), qPrintable('\n' + problems.join('\n')));
+    QVERIFY2(missing.isEmpty(), qPrintable(missing.keys().join(' ')));
+    QVERIFY(visited >= 27);
+}
+
+QTEST_MAIN(LookTest)
+#include "tst_look.moc"

@@ -50,7 +50,7 @@ void alignLabels(QWidget *form)
     for (QLabel *label : labels) {
         if (label->buddy()) {
             label->setMinimumSize(widths.value(columnOf(label)),
-                                  std::max<int>(label->sizeHint().height(), NoHelpButtonDialog::TouchHeight));
+                                  std::max(label->sizeHint().height(), NoHelpButtonDialog::TouchHeight));
         }
     }
 }

@@ -35,7 +35,7 @@ void makeTouchable(QWidget &window)
         const bool isInput = qobject_cast<QComboBox *>(widget) || qobject_cast<QLineEdit *>(widget) ||
                              qobject_cast<QAbstractSpinBox *>(widget);
         if (!isPart && (isButton || isInput)) {
-            widget->setMinimumHeight(std::max<int>(widget->minimumHeight(), NoHelpButtonDialog::TouchHeight));
+            widget->setMinimumHeight(std::max(widget->minimumHeight(), NoHelpButtonDialog::TouchHeight));
         }
     }
 }

@@ -19,7 +19,7 @@ class PAYCARD_EXPORT NoHelpButtonDialog : public QDialog
 
 public:
     /// What a finger has to hit is at least this high, in pixels: registers have touch screens.
-    static const int TouchHeight = 32;
+    static constexpr int TouchHeight = 32;
 
     explicit NoHelpButtonDialog(QWidget *parent = nullptr);
     ~NoHelpButtonDialog() override;

@@ -72,6 +72,8 @@ void OperatorDialog::fillChoices()
     strToComboBox(ui->cmbCommissionAddition, additions, false);
     strToComboBox(ui->cmbParam1, parameters, false);
     strToComboBox(ui->cmbParam2, parameters, false);
+    // The widest of them is in the right column; the inputs of the left one are to be as wide.
+    ui->cmbParam1->setMinimumWidth(ui->cmbCommissionAddition->sizeHint().width());
 }
 
 void OperatorDialog::setError(const QString &text)

@@ -72,6 +72,12 @@ QRect placeOf(const QWidget *widget)
     return QRect(widget->mapTo(widget->window(), QPoint()), widget->size());
 }
 
+/// The lists of the driver's own texts are as wide as is reasonable, not as those texts.
+bool showsDriverTexts(const QWidget *widget)
+{
+    return widget->objectName() == "cmbProtocol" || widget->objectName() == "cmbOperators";
+}
+
 bool isClipped(const QWidget *widget)
 {
     if (!widget->window()->rect().contains(placeOf(widget))) {
@@ -82,7 +88,11 @@ bool isClipped(const QWidget *widget)
         option.initFrom(combo);
         const QRect text =
             combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo);
-        return text.width() < combo->fontMetrics().boundingRect(combo->currentText()).width();
+        int widest = 0;
+        for (int i = 0; i < combo->count(); ++i) {
+            widest = std::max(widest, combo->fontMetrics().boundingRect(combo->itemText(i)).width());
+        }
+        return text.width() < widest && !showsDriverTexts(combo);
     }
     const QLabel *label = qobject_cast<const QLabel *>(widget);
     if (label && label->wordWrap()) {

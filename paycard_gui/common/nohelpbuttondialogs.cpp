@@ -25,7 +25,8 @@ void clearHelpButton(QWidget &window)
     window.setWindowFlags(window.windowFlags() & ~Qt::WindowContextHelpButtonHint);
 }
 
-void makeTouchable(QWidget &window)
+/// For touch screens and full-screen hosts; to be done when the window is complete.
+void prepareToShow(QWidget &window)
 {
     const QList<QWidget *> widgets = window.findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
@@ -38,6 +39,7 @@ void makeTouchable(QWidget &window)
             widget->setMinimumHeight(std::max(widget->minimumHeight(), NoHelpButtonDialog::TouchHeight));
         }
     }
+    QtCompat::keepAboveActiveWindow(window);
 }
 
 QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
@@ -48,7 +50,7 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
                                   Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     clearHelpButton(*box);
     box->setDefaultButton(defaultButton);
-    makeTouchable(*box);
+    prepareToShow(*box);
     return static_cast<QMessageBox::StandardButton>(box->exec());
 }
 
@@ -57,7 +59,7 @@ template <class Dialog>
 bool runToAcceptance(const ScopedDialog<Dialog> &dialog)
 {
     clearHelpButton(*dialog);
-    makeTouchable(*dialog);
+    prepareToShow(*dialog);
     return dialog->exec() == QDialog::Accepted && dialog;
 }
 
@@ -124,7 +126,7 @@ int NoHelpButtonDialog::exec()
     const QPointer<NoHelpButtonDialog> self(this);
     int code = Rejected;
     if (failures.count(this) == 0) {
-        makeTouchable(*this);
+        prepareToShow(*this);
         code = QDialog::exec();
     }
     if (!self) {

@@ -2,11 +2,16 @@
 #ifndef QTCOMPAT_H
 #define QTCOMPAT_H
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QLibraryInfo>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#include <QWindow>
+#endif
 
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #include <QTextCodec>
@@ -71,6 +76,21 @@ inline void chooseDirectoriesOnly(QFileDialog &dialog)
     dialog.setOption(QFileDialog::ShowDirsOnly);
 #else
     dialog.setFileMode(QFileDialog::DirectoryOnly);
+#endif
+}
+
+/// Keeps a window without a parent above the application's active window, which may be a full-screen one that
+/// stays on top. The oldest release does so by itself.
+inline void keepAboveActiveWindow(QWidget &window)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    const QWidget *active = QApplication::activeWindow();
+    if (active && !window.parentWidget()) {
+        window.winId(); // gives it the handle that is asked for next
+        window.windowHandle()->setTransientParent(active->windowHandle());
+    }
+#else
+    Q_UNUSED(window);
 #endif
 }
 

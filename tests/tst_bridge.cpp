@@ -22,6 +22,7 @@ private slots:
     void parentGoes();
     void hostQuits();
     void entryWithinEntry();
+    void thousandCalls();
 };
 
 void BridgeTest::exceptions()
@@ -221,6 +222,41 @@ void BridgeTest::entryWithinEntry()
     QCOMPARE(inner.driver.operation.operatorIndex, 0);
     QCOMPARE(outerResult, 0);
     QCOMPARE(outer.driver.propertiesShown(), 0);
+}
+
+// A register runs for weeks: nothing may pile up in it.
+void BridgeTest::thousandCalls()
+{
+    const auto residentKiB = [] {
+        QFile statm("/proc/self/statm");
+        return statm.open(QIODevice::ReadOnly) ? statm.readAll().split(' ').value(1).toLong() * 4 : 0;
+    };
+    QTimer user;
+    connect(&user, &QTimer::timeout, [] {
+        if (QWidget *window = QApplication::activeModalWidget()) {
+            agree(window);
+        }
+    });
+    user.start(0);
+    Register shop = shopWithOperator();
+    shop.driver.operation.operatorIndex = 0;
+    shop.driver.operation.sum = 100;
+    long settled = 0;
+    for (int i = 0; i < 1000; ++i) {
+        for (const auto &entry : EntryPoints) {
+            QCOMPARE(entry.call(&shop.driver, nullptr), 1);
+        }
+        shop.driver.clearJournal();
+        if (i == 99) {
+            settled = residentKiB();
+        }
+    }
+    QVERIFY(QApplication::allWidgets().isEmpty());
+    const long growth = residentKiB() - settled;
+    qInfo("grown by %ld KiB from %ld KiB in 3600 calls", growth, settled);
+#ifndef __SANITIZE_ADDRESS__ // keeps freed memory for a while
+    QVERIFY(settled > 0 && growth < 2048);
+#endif
 }
 
 QTEST_MAIN(BridgeTest)

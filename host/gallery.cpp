@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTabWidget>
@@ -29,7 +30,8 @@ QPixmap photographHost(const LibraryPaycard &library, const Operation &operation
     auto *tabs = window.findChild<QTabWidget *>("tabs");
     tabs->setCurrentWidget(window.findChild<QWidget *>(page));
     window.show();
-    ModalScript script({[](QWidget *box) { ModalScript::press(box, "OK"); }});
+    ModalScript script(
+        {[](QWidget *box) { qobject_cast<QMessageBox *>(box)->button(QMessageBox::Ok)->click(); }});
     script.run([&] {
         window.findChild<QPushButton *>("pbtnConfirmPayment")->click();
         return 0;

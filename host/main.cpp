@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "cashregisterwindow.h"
+#include "common/qtcompat.h"
 #include "gallery.h"
 #include "librarypaycard.h"
 #include "simulateddriver.h"
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLocale>
+#include <QTranslator>
 
 #include <algorithm>
 #include <cstdio>
@@ -133,6 +135,11 @@ int main(int argc, char **argv)
     }
     const QApplication application(argc, argv);
     QLocale::setDefault(QLocale(QLocale::Russian, QLocale::Russia));
+    // The library's texts are Russian; this makes the toolkit's own so, the buttons of its boxes among them.
+    QTranslator translator;
+    if (translator.load("qt_ru", QtCompat::translationsDirectory())) {
+        QApplication::installTranslator(&translator);
+    }
 
     const Options options;
     QCommandLineParser parser;

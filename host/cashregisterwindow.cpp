@@ -36,12 +36,8 @@ void fitColumns(QTreeWidget *list)
 
 } // namespace
 
-CashRegisterWindow::CashRegisterWindow(SimulatedDriver &hostDriver, const LibraryPaycard &hostLibrary,
-                                       QWidget *parent)
-    : QMainWindow(parent),
-      ui(std::make_unique<Ui::CashRegisterWindow>()),
-      driver(hostDriver),
-      library(hostLibrary)
+CashRegisterWindow::CashRegisterWindow(SimulatedDriver &hostDriver, const LibraryPaycard &hostLibrary, QWidget *parent)
+    : QMainWindow(parent), ui(std::make_unique<Ui::CashRegisterWindow>()), driver(hostDriver), library(hostLibrary)
 {
     ui->setupUi(this);
     arrange();
@@ -68,10 +64,8 @@ CashRegisterWindow::~CashRegisterWindow()
 void CashRegisterWindow::arrange()
 {
     // The longest answer fits, so that the form does not change its width.
-    ui->lbCommissionAddition->setMinimumWidth(
-        fontMetrics().horizontalAdvance(LibraryPaycard::inWords(QString(), -1)));
-    ui->saCash->setMinimumWidth(ui->cash->minimumSizeHint().width() +
-                                style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    ui->lbCommissionAddition->setMinimumWidth(fontMetrics().horizontalAdvance(LibraryPaycard::inWords(QString(), -1)));
+    ui->saCash->setMinimumWidth(ui->cash->minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     ui->splitterTop->setStretchFactor(1, 1);
     // Weights, not pixels.
     ui->splitterMain->setSizes({500, 200});
@@ -134,9 +128,8 @@ void CashRegisterWindow::callLibrary(const QString &function)
 
 void CashRegisterWindow::openFile()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(this, QStringLiteral("Открыть настройки"), driver.settingsFile(),
-                                     QStringLiteral("Документы настроек (*.xml);;Все файлы (*)"));
+    const QString path = QFileDialog::getOpenFileName(this, QStringLiteral("Открыть настройки"), driver.settingsFile(),
+                                                      QStringLiteral("Документы настроек (*.xml);;Все файлы (*)"));
     QString reason;
     if (!path.isEmpty() && !driver.openSettings(path, &reason)) {
         QMessageBox::critical(this, QStringLiteral("Настройки не открыты"), reason);
@@ -155,8 +148,8 @@ void CashRegisterWindow::loadSample(const QString &name)
 void CashRegisterWindow::addFailure()
 {
     driver.failOperation(ui->cmbFailing->currentText(),
-                         {static_cast<Fault>(ui->cmbFault->currentIndex()), ui->spinCode->value(),
-                          ui->leText->text(), ui->leDetail->text()});
+                         {static_cast<Fault>(ui->cmbFault->currentIndex()), ui->spinCode->value(), ui->leText->text(),
+                          ui->leDetail->text()});
     showFailures();
 }
 
@@ -224,9 +217,8 @@ void CashRegisterWindow::showOperators()
 
 void CashRegisterWindow::showSettings()
 {
-    ui->lbSource->setText(driver.settingsFile().isEmpty()
-                              ? QStringLiteral("Документ в памяти, в файл не сохраняется")
-                              : QStringLiteral("Файл: %1").arg(driver.settingsFile()));
+    ui->lbSource->setText(driver.settingsFile().isEmpty() ? QStringLiteral("Документ в памяти, в файл не сохраняется")
+                                                          : QStringLiteral("Файл: %1").arg(driver.settingsFile()));
     ui->twSettings->clear();
     addEntries(ui->twSettings->invisibleRootItem(), SettingsDocument(driver.settings()));
     ui->twSettings->expandAll();

@@ -30,8 +30,7 @@ QPixmap photographHost(const LibraryPaycard &library, const Operation &operation
     auto *tabs = window.findChild<QTabWidget *>("tabs");
     tabs->setCurrentWidget(window.findChild<QWidget *>(page));
     window.show();
-    ModalScript script(
-        {[](QWidget *box) { qobject_cast<QMessageBox *>(box)->button(QMessageBox::Ok)->click(); }});
+    ModalScript script({[](QWidget *box) { qobject_cast<QMessageBox *>(box)->button(QMessageBox::Ok)->click(); }});
     script.run([&] {
         window.findChild<QPushButton *>("pbtnConfirmPayment")->click();
         return 0;
@@ -62,8 +61,8 @@ bool drawGallery(const LibraryPaycard &library, const Operation &operation, cons
             complete = false;
         }
     };
-    const QMap<QString, QString> missing = visitWindows(
-        library, operation, [&](const QString &name, QWidget *window) { save(name, window->grab()); });
+    const QMap<QString, QString> missing =
+        visitWindows(library, operation, [&](const QString &name, QWidget *window) { save(name, window->grab()); });
     for (auto window = missing.cbegin(); window != missing.cend(); ++window) {
         complain(window.key(), window.value());
     }

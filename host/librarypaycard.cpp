@@ -55,10 +55,8 @@ QString LibraryPaycard::inWords(const QString &function, int result)
         {"CommissionAddition", {"отменено", "в сумме", "сверх суммы"}},
         {"ConfirmPayment", {"отменено", "подтверждено"}},
     };
-    const QString meaning =
-        result == -1 ? QStringLiteral("не выполнено") : meanings.value(function).value(result);
+    const QString meaning = result == -1 ? QStringLiteral("не выполнено") : meanings.value(function).value(result);
     QString number = QString::number(result);
     number.replace(QLatin1Char('-'), QChar(0x2212));
-    return QStringLiteral("%1 — %2").arg(number,
-                                         meaning.isEmpty() ? QStringLiteral("неизвестный ответ") : meaning);
+    return QStringLiteral("%1 — %2").arg(number, meaning.isEmpty() ? QStringLiteral("неизвестный ответ") : meaning);
 }

@@ -53,13 +53,12 @@ Operation exampleOperation()
 
 struct Options
 {
-    const QCommandLineOption settings = {
-        "settings", "Файл с документом настроек драйвера; создаётся, если его нет.", "ФАЙЛ"};
-    const QCommandLineOption sample = {
-        "sample",
-        QString("Образец настроек: %1. Без параметров — %2.")
-            .arg(SimulatedDriver::samples().join(", "), QString(DefaultSample)),
-        "ИМЯ"};
+    const QCommandLineOption settings = {"settings", "Файл с документом настроек драйвера; создаётся, если его нет.",
+                                         "ФАЙЛ"};
+    const QCommandLineOption sample = {"sample",
+                                       QString("Образец настроек: %1. Без параметров — %2.")
+                                           .arg(SimulatedDriver::samples().join(", "), QString(DefaultSample)),
+                                       "ИМЯ"};
     const QCommandLineOption call = {"call",
                                      QString("Вызвать одну функцию библиотеки и напечатать её ответ (%1).")
                                          .arg(LibraryPaycard::functions().join(", ")),
@@ -143,8 +142,7 @@ int main(int argc, char **argv)
 
     const Options options;
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        "Учебная касса: вызывает окна платёжного драйвера без платёжного терминала.");
+    parser.setApplicationDescription("Учебная касса: вызывает окна платёжного драйвера без платёжного терминала.");
     parser.addOptions(
         {options.settings, options.sample, options.call, options.gallery, options.fontScale, options.help});
     if (!parser.parse(QApplication::arguments()) || !parser.positionalArguments().isEmpty()) {

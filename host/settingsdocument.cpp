@@ -65,8 +65,8 @@ SettingsDocument::SettingsDocument(const QString &xml) : length(xml.size())
 
 QString SettingsDocument::value(const QString &name) const
 {
-    const auto found = std::find_if(values.crbegin(), values.crend(),
-                                    [&](const SettingsEntry &entry) { return entry.name == name; });
+    const auto found =
+        std::find_if(values.crbegin(), values.crend(), [&](const SettingsEntry &entry) { return entry.name == name; });
     return found == values.crend() ? QString() : found->text;
 }
 

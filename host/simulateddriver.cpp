@@ -65,8 +65,7 @@ QString fromWide(const wchar_t *text)
 
 QString portChoices()
 {
-    QString choices =
-        QStringLiteral("TCPIP:TCP/IP;UDPIP:UDP/IP;BT:Bluetooth;USB:USB:терминал;TTY:Файл устройства;");
+    QString choices = QStringLiteral("TCPIP:TCP/IP;UDPIP:UDP/IP;BT:Bluetooth;USB:USB:терминал;TTY:Файл устройства;");
     for (int port = 0; port < 100; ++port) {
         choices += QStringLiteral("%1:COM%1;").arg(port);
     }
@@ -90,18 +89,15 @@ QString choicesOf(const QString &setting)
 
 } // namespace
 
-SimulatedDriver::Document::Document(const QString &xml) : text(xml), content(xml), shown(content.toPeople())
-{
-}
+SimulatedDriver::Document::Document(const QString &xml) : text(xml), content(xml), shown(content.toPeople()) {}
 
 QStringList SimulatedDriver::operations()
 {
-    return QStringLiteral(
-               "getVersion getDriverName setPropertiesShown getResultCode getResultDescription "
-               "getErrorDetail getErrorDetailDescription getSettings setSettings getSettingValue "
-               "getSettingChoices getOperation getSum getPhoneNumber getReference getAccountNumber "
-               "getCommission setOperatorIndex getOperatorName getOperatorMinSum "
-               "getOperatorMaxSum getOperatorCommissionType getOperatorCommission")
+    return QStringLiteral("getVersion getDriverName setPropertiesShown getResultCode getResultDescription "
+                          "getErrorDetail getErrorDetailDescription getSettings setSettings getSettingValue "
+                          "getSettingChoices getOperation getSum getPhoneNumber getReference getAccountNumber "
+                          "getCommission setOperatorIndex getOperatorName getOperatorMinSum "
+                          "getOperatorMaxSum getOperatorCommissionType getOperatorCommission")
         .split(QLatin1Char(' '));
 }
 
@@ -201,17 +197,15 @@ void SimulatedDriver::writeDown(const char *name, const QString &arguments, cons
 }
 
 // What a fault writes makes sense for texts only; the other operations give its result.
-std::optional<int> SimulatedDriver::playFailure(const char *name, const QString &arguments, wchar_t *buffer,
-                                                int size)
+std::optional<int> SimulatedDriver::playFailure(const char *name, const QString &arguments, wchar_t *buffer, int size)
 {
     if (!inForce.contains(name)) {
         return std::nullopt;
     }
     // A copy, because the host may clear the failures when it hears of the call.
     const Failure failure = inForce.value(name);
-    writeDown(
-        name, arguments,
-        QStringLiteral("сбой «%1»: %2").arg(faults().at(static_cast<int>(failure.fault)), describe(failure)));
+    writeDown(name, arguments,
+              QStringLiteral("сбой «%1»: %2").arg(faults().at(static_cast<int>(failure.fault)), describe(failure)));
     switch (failure.fault) {
     case Fault::Refuse:
         if (!tellsOfFailure(name)) {
@@ -237,8 +231,8 @@ std::optional<int> SimulatedDriver::playFailure(const char *name, const QString 
     return std::nullopt;
 }
 
-int SimulatedDriver::giveText(const char *name, const QString &subject, const QString &text,
-                              const QString &shown, wchar_t *buffer, int size)
+int SimulatedDriver::giveText(const char *name, const QString &subject, const QString &text, const QString &shown,
+                              wchar_t *buffer, int size)
 {
     const QString arguments = subject + QStringLiteral("буфер %1").arg(size);
     if (const auto result = playFailure(name, arguments, buffer, size)) {
@@ -247,8 +241,7 @@ int SimulatedDriver::giveText(const char *name, const QString &subject, const QS
     const int length = copyOut(text, buffer, size);
     writeDown(name, arguments,
               QStringLiteral("%1%2: «%3»")
-                  .arg(QString::number(length),
-                       length > size ? QStringLiteral(", не поместилось") : QString(), shown));
+                  .arg(QString::number(length), length > size ? QStringLiteral(", не поместилось") : QString(), shown));
     return length;
 }
 

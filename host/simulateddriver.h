@@ -141,10 +141,9 @@ private:
     };
 
     // The shapes of the operations: each plays the failure in force or answers, and writes the call down.
-    std::optional<int> playFailure(const char *name, const QString &arguments, wchar_t *buffer = nullptr,
-                                   int size = 0);
-    int giveText(const char *name, const QString &subject, const QString &text, const QString &shown,
-                 wchar_t *buffer, int size);
+    std::optional<int> playFailure(const char *name, const QString &arguments, wchar_t *buffer = nullptr, int size = 0);
+    int giveText(const char *name, const QString &subject, const QString &text, const QString &shown, wchar_t *buffer,
+                 int size);
     int giveText(const char *name, const QString &text, wchar_t *buffer, int size);
     template <class Number>
     int giveNumber(const char *name, Number value, Number *out);

@@ -74,8 +74,7 @@ QMap<QString, QString> protocol(int number)
 Scene protocolScene(const QString &name, int number, const QList<Move> &moves = {})
 {
     const QString sample = number == 11 ? "sberbank" : "arcus2";
-    return {name, "ShowProperties", sample, QList<Move>{open("pbtnSettingsButton")} + moves,
-            protocol(number)};
+    return {name, "ShowProperties", sample, QList<Move>{open("pbtnSettingsButton")} + moves, protocol(number)};
 }
 
 Scene sberbankScene(const QString &page, const QString &port)
@@ -99,17 +98,11 @@ QList<Scene> scenes()
         {"commission", "CommissionAddition", shop},
         {"commission-too-little", "CommissionAddition", shop, {}, {}, paying(5.0)},
         {"properties", properties, shop},
-        {"properties-no-directory",
-         properties,
-         shop,
-         {set("lePathACDialog", "text", "/нет/такого/каталога")}},
+        {"properties-no-directory", properties, shop, {set("lePathACDialog", "text", "/нет/такого/каталога")}},
         {"properties-refused", properties, shop, {press("pbtnOk")}, {}, failing("setSettings", Refusal)},
         {"slip", properties, shop, {open("pbtnSlip")}},
         {"operators", properties, shop, {open("pbtnOperators"), set("lwOperators", "currentRow", 1)}},
-        {"operator",
-         properties,
-         shop,
-         {open("pbtnOperators"), set("lwOperators", "currentRow", 1), open("pbtnEdit")}},
+        {"operator", properties, shop, {open("pbtnOperators"), set("lwOperators", "currentRow", 1), open("pbtnEdit")}},
         {"operator-new", properties, shop, {open("pbtnOperators"), open("pbtnAdd")}},
         {"cyberplat", properties, shop, {open("pbtnSettingsButton")}},
         {"cyberplat-no-password",

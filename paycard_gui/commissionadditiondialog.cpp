@@ -45,8 +45,7 @@ CommissionAdditionDialog::CommissionAdditionDialog(IPayCard *object, QWidget *pa
     // One preview, once the list is whole. The doubled "м" is what the cashiers know.
     ui->cmbCommissionAddition->blockSignals(true);
     strToComboBox(ui->cmbCommissionAddition,
-                  numberedMapping(tr("%1:Коммиссия включена в сумму;%2:Коммиссия добавляется к сумме;")),
-                  false);
+                  numberedMapping(tr("%1:Коммиссия включена в сумму;%2:Коммиссия добавляется к сумме;")), false);
     ui->cmbCommissionAddition->blockSignals(false);
     updatePreview();
 }

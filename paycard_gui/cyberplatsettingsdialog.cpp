@@ -82,8 +82,7 @@ void CyberPlatSettingsDialog::checkState()
 {
     const QString failure = firstBroken({
         {ui->leURL->text().isEmpty(), tr("Не указан адрес сервера")},
-        {ui->checkUseProxy->isChecked() && ui->leProxyServer->text().isEmpty(),
-         tr("Не указан адрес прокси-сервера")},
+        {ui->checkUseProxy->isChecked() && ui->leProxyServer->text().isEmpty(), tr("Не указан адрес прокси-сервера")},
         {ui->leKeyLoadPwd->text().isEmpty(), tr("Не указан пароль ключа")},
     });
     ui->pbtnOk->setEnabled(failure.isEmpty());

@@ -16,8 +16,7 @@ void showError(QLabel *line, const QString &text)
     QLayout *layout = window->layout();
     // A window's layout sees to the height that wrapped texts need only when it is first shown.
     layout->activate();
-    const int height =
-        layout->hasHeightForWidth() ? layout->totalHeightForWidth(window->width()) : window->height();
+    const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(window->width()) : window->height();
     window->resize(window->width(), std::max(height, window->height()));
 }
 

@@ -64,8 +64,7 @@ OperatorDialog::~OperatorDialog() = default;
 void OperatorDialog::fillChoices()
 {
     const QString types = numberedMapping(tr("%1:Сумма;%2:Процент;"));
-    const QString additions =
-        numberedMapping(tr("%1:Включена в сумму;%2:Добавляется к сумме;%3:Запрос к кассиру;"));
+    const QString additions = numberedMapping(tr("%1:Включена в сумму;%2:Добавляется к сумме;%3:Запрос к кассиру;"));
     const QString parameters =
         numberedMapping(tr("%1:Не запрашивается;%2:Номер счета;%3:Номер телефона;%4:Логин;%5:Код;"));
     strToComboBox(ui->cmbCommissionType, types, false);

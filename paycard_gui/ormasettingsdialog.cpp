@@ -73,16 +73,12 @@ OrmaSettingsDialog::PortKind OrmaSettingsDialog::network(QWidget *page, QLineEdi
 
 OrmaSettingsDialog::PortKind OrmaSettingsDialog::usb(QWidget *page, QLineEdit *vid, QLineEdit *pid)
 {
-    return {PortUsbKey,
-            choice(PortUsbKey, tr("USB")),
-            page,
-            {hexadecimal(VidKey, vid), hexadecimal(PidKey, pid)}};
+    return {PortUsbKey, choice(PortUsbKey, tr("USB")), page, {hexadecimal(VidKey, vid), hexadecimal(PidKey, pid)}};
 }
 
 OrmaSettingsDialog::PortKind OrmaSettingsDialog::tty(QWidget *page, QLineEdit *name, QComboBox *baudrate)
 {
-    return {
-        PortTtyKey, choice(PortTtyKey, tr("Файл устройства")), page, {{TTYNameKey, name}, speed(baudrate)}};
+    return {PortTtyKey, choice(PortTtyKey, tr("Файл устройства")), page, {{TTYNameKey, name}, speed(baudrate)}};
 }
 
 OrmaSettingsDialog::PortKind OrmaSettingsDialog::serial(QWidget *page, QComboBox *baudrate)

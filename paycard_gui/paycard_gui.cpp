@@ -74,8 +74,7 @@ int CommissionAddition(NOX::PayCard::IPayCard *driver, QWidget *parent)
 int SelectOperator(NOX::PayCard::IPayCard *driver, QWidget *parent)
 {
     // The same words as for the properties, on purpose.
-    return enter(driver, parent, QT_TR_NOOP("Ошибка настройки свойств"),
-                 runToAcceptance<SelectOperatorDialog>);
+    return enter(driver, parent, QT_TR_NOOP("Ошибка настройки свойств"), runToAcceptance<SelectOperatorDialog>);
 }
 
 int ShowProperties(NOX::PayCard::IPayCard *driver, QWidget *parent)

@@ -71,8 +71,7 @@ QString servicePaymentText(const QNoxPaycard &driver)
     return QObject::tr("Проверка данных<br>%1Оператор: %2<br>Сумма: %3<br>Комиссия: %4<br>Общая сумма: %5%6")
         .arg(line(QObject::tr("Операция: %1<br>"), operation), QtCompat::escaped(operatorName), amount(sum),
              amount(commission), amount(sum + commission),
-             line(QObject::tr("<br>Номер телефона: %1"), phone) +
-                 line(QObject::tr("<br>Номер счета: %1"), account));
+             line(QObject::tr("<br>Номер телефона: %1"), phone) + line(QObject::tr("<br>Номер счета: %1"), account));
 }
 
 } // namespace

@@ -132,8 +132,7 @@ void PaySystemDialog::loadSettings()
     driver.raiseError(result);
     loadedXml = settings.toXml(0);
 
-    const QString protocols =
-        driver.getBuff(&IPayCard::getSettingChoices, ProtocolKey.toStdWString().c_str(), &result);
+    const QString protocols = driver.getBuff(&IPayCard::getSettingChoices, ProtocolKey.toStdWString().c_str(), &result);
     driver.raiseError(result);
     strToComboBox(ui->cmbProtocol, protocols, false);
 

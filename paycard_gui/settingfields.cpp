@@ -25,31 +25,29 @@ SettingField::SettingField(const QString &name, std::function<void(const QVarian
 
 SettingField::SettingField(const QString &name, QLineEdit *edit, const QString &defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { showText(edit, stored.toString()); },
-          [=] { return edit->text(); }, defaultValue)
+          name, [=](const QVariant &stored) { showText(edit, stored.toString()); }, [=] { return edit->text(); },
+          defaultValue)
 {
 }
 
 SettingField::SettingField(const QString &name, QSpinBox *spin, int defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { spin->setValue(stored.toInt()); },
-          [=] { return spin->value(); }, defaultValue)
+          name, [=](const QVariant &stored) { spin->setValue(stored.toInt()); }, [=] { return spin->value(); },
+          defaultValue)
 {
 }
 
 SettingField::SettingField(const QString &name, QDoubleSpinBox *spin, double defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { spin->setValue(stored.toDouble()); },
-          [=] { return spin->value(); }, defaultValue)
+          name, [=](const QVariant &stored) { spin->setValue(stored.toDouble()); }, [=] { return spin->value(); },
+          defaultValue)
 {
 }
 
 SettingField::SettingField(const QString &name, QComboBox *combo, int defaultValue)
     : SettingField(
           name,
-          [=](const QVariant &stored) {
-              QComboSelectIfCan(combo, stored.toString(), QString::number(defaultValue));
-          },
+          [=](const QVariant &stored) { QComboSelectIfCan(combo, stored.toString(), QString::number(defaultValue)); },
           [=] { return cmbData(combo); }, defaultValue)
 {
 }

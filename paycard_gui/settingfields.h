@@ -27,8 +27,8 @@ public:
     /// A choice whose key is stored as text.
     SettingField(const QString &key, QComboBox *combo, const QString &def);
     /// A setting with a way of its own into the form and back.
-    SettingField(const QString &key, std::function<void(const QVariant &)> show,
-                 std::function<QVariant()> value, const QVariant &def = QVariant());
+    SettingField(const QString &key, std::function<void(const QVariant &)> show, std::function<QVariant()> value,
+                 const QVariant &def = QVariant());
 
     void load(const QNoxSettings &settings) const;
     void save(QNoxSettings &settings) const;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "settingsdialog.h"
 
-SettingsDialog::SettingsDialog(QNoxSettings &document, QWidget *parent)
-    : NoHelpButtonDialog(parent), settings(document)
+SettingsDialog::SettingsDialog(QNoxSettings &document, QWidget *parent) : NoHelpButtonDialog(parent), settings(document)
 {
 }
 

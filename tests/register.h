@@ -64,10 +64,7 @@ public:
         return result;
     }
 
-    QVariant stored(const char *name) const
-    {
-        return QNoxSettings(driver.settings()).get(QString::fromLatin1(name));
-    }
+    QVariant stored(const char *name) const { return QNoxSettings(driver.settings()).get(QString::fromLatin1(name)); }
 
     int calls(const char *operation) const
     {

@@ -21,8 +21,7 @@ private slots:
 
 namespace {
 
-const EntryPoint EntryPoints[] = {AskParams, CommissionAddition, SelectOperator, ShowProperties,
-                                  ConfirmPayment};
+const EntryPoint EntryPoints[] = {AskParams, CommissionAddition, SelectOperator, ShowProperties, ConfirmPayment};
 
 } // namespace
 

@@ -141,8 +141,8 @@ void BridgeTest::failures()
 {
     QFETCH(int, entry);
     QFETCH(QString, operation);
-    for (const Fault fault : {Fault::Refuse, Fault::NoText, Fault::EverLonger, Fault::LargestInt,
-                              Fault::Unterminated, Fault::ThrowStandard, Fault::ThrowOther}) {
+    for (const Fault fault : {Fault::Refuse, Fault::NoText, Fault::EverLonger, Fault::LargestInt, Fault::Unterminated,
+                              Fault::ThrowStandard, Fault::ThrowOther}) {
         Register shop = shopWithOperator();
         shop.driver.operation.operatorIndex = 0;
         shop.driver.operation.sum = 100;
@@ -153,8 +153,7 @@ void BridgeTest::failures()
             shop.driver.failOperation("setSettings", {Fault::Refuse, 6, "Отказ", "деталь"});
         }
         const int result = shop.run(EntryPoints[entry].call, {agree, agree, agree});
-        QVERIFY2(result >= -1 && result <= EntryPoints[entry].lastResult,
-                 qPrintable(QString::number(result)));
+        QVERIFY2(result >= -1 && result <= EntryPoints[entry].lastResult, qPrintable(QString::number(result)));
         const bool reached = shop.calls(qPrintable(operation)) > 0;
         const bool throws = fault == Fault::ThrowStandard || fault == Fault::ThrowOther;
         if (!reached && shop.driver.failures().size() == 1) {
@@ -182,8 +181,7 @@ void BridgeTest::parentGoes()
         QCOMPARE(shop.run(entry.call, {[&](QWidget *) { delete parent; }}, parent), 0);
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
     }
-    for (const char *button :
-         {"pbtnSlip", "pbtnOperators", "pbtnSettingsButton", "pbtnAbout", "pbtnPathACDialog"}) {
+    for (const char *button : {"pbtnSlip", "pbtnOperators", "pbtnSettingsButton", "pbtnAbout", "pbtnPathACDialog"}) {
         Register shop = shopWithOperator();
         QWidget *parent = new QWidget;
         QCOMPARE(shop.run(ShowProperties, {press(button), [&](QWidget *) { delete parent; }}, parent), 0);
@@ -197,8 +195,8 @@ void BridgeTest::hostQuits()
     for (const auto &entry : EntryPoints) {
         Register shop = shopWithOperator();
         int result = -1;
-        QTimer::singleShot(
-            0, qApp, [&] { result = shop.run(entry.call, {[](QWidget *) { QCoreApplication::exit(7); }}); });
+        QTimer::singleShot(0, qApp,
+                           [&] { result = shop.run(entry.call, {[](QWidget *) { QCoreApplication::exit(7); }}); });
         QCOMPARE(QApplication::exec(), 7);
         QCOMPARE(result, 0);
         QVERIFY(QApplication::topLevelWidgets().isEmpty());

@@ -48,8 +48,7 @@ QList<QWidget *> formWidgets(const QWidget *window)
     const QList<QWidget *> children = window->findChildren<QWidget *>();
     for (QWidget *widget : children) {
         const bool isPart = isOneOf<QAbstractSpinBox, QComboBox, QAbstractScrollArea>(widget->parentWidget());
-        if (widget->isVisible() && !isPart &&
-            !isOneOf<QAbstractScrollArea>(widget->parentWidget()->parentWidget())) {
+        if (widget->isVisible() && !isPart && !isOneOf<QAbstractScrollArea>(widget->parentWidget()->parentWidget())) {
             widgets += widget;
         }
     }
@@ -58,8 +57,8 @@ QList<QWidget *> formWidgets(const QWidget *window)
 
 bool takesInput(const QWidget *widget)
 {
-    return isOneOf<QAbstractButton, QComboBox, QAbstractSpinBox, QLineEdit, QTextEdit, QListWidget,
-                   QTreeWidget>(widget);
+    return isOneOf<QAbstractButton, QComboBox, QAbstractSpinBox, QLineEdit, QTextEdit, QListWidget, QTreeWidget>(
+        widget);
 }
 
 QString accessibleName(QWidget *widget)
@@ -101,8 +100,7 @@ bool isClipped(const QWidget *widget)
     if (isOneOf<QLabel, QPushButton, QCheckBox, QAbstractSpinBox>(widget)) {
         return widget->width() < widget->sizeHint().width() || widget->height() < widget->sizeHint().height();
     }
-    return widget->width() < widget->minimumSizeHint().width() ||
-           widget->height() < widget->minimumSizeHint().height();
+    return widget->width() < widget->minimumSizeHint().width() || widget->height() < widget->minimumSizeHint().height();
 }
 
 /// Problems of one widget, for people.
@@ -138,8 +136,7 @@ QStringList tabProblems(const QWidget *window)
             continue;
         }
         // Onwards is down, or to the right, be it at the top of the next column.
-        if (last && placeOf(next).top() < placeOf(last).bottom() &&
-            placeOf(next).left() < placeOf(last).right()) {
+        if (last && placeOf(next).top() < placeOf(last).bottom() && placeOf(next).left() < placeOf(last).right()) {
             problems += QString("Tab goes back from %1 to %2").arg(last->objectName(), next->objectName());
         }
         last = next;
@@ -178,32 +175,30 @@ void LookTest::windows()
 
     QStringList problems;
     int visited = 0;
-    const QMap<QString, QString> missing =
-        visitWindows(library, operation, [&](const QString &name, QWidget *window) {
-            ++visited;
-            QCoreApplication::sendPostedEvents();
-            QStringList found = tabProblems(window);
-            const QList<QWidget *> widgets = formWidgets(window);
-            for (QWidget *widget : widgets) {
-                const QStringList own = problemsOf(widget);
-                if (!own.isEmpty()) {
-                    found +=
-                        QString("%1 %2: %3")
-                            .arg(widget->metaObject()->className(), widget->objectName(), own.join(", "));
-                }
+    const QMap<QString, QString> missing = visitWindows(library, operation, [&](const QString &name, QWidget *window) {
+        ++visited;
+        QCoreApplication::sendPostedEvents();
+        QStringList found = tabProblems(window);
+        const QList<QWidget *> widgets = formWidgets(window);
+        for (QWidget *widget : widgets) {
+            const QStringList own = problemsOf(widget);
+            if (!own.isEmpty()) {
+                found +=
+                    QString("%1 %2: %3").arg(widget->metaObject()->className(), widget->objectName(), own.join(", "));
             }
-            if (window->width() > screen.width() || window->height() > screen.height()) {
-                found += QString("too large: %1 x %2").arg(window->width()).arg(window->height());
-            }
-            const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
-            if (std::none_of(buttons.begin(), buttons.end(),
-                             [](const QPushButton *button) { return button->isDefault(); })) {
-                found += "no default button";
-            }
-            for (const QString &problem : found) {
-                problems += name + ": " + problem;
-            }
-        });
+        }
+        if (window->width() > screen.width() || window->height() > screen.height()) {
+            found += QString("too large: %1 x %2").arg(window->width()).arg(window->height());
+        }
+        const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
+        if (std::none_of(buttons.begin(), buttons.end(),
+                         [](const QPushButton *button) { return button->isDefault(); })) {
+            found += "no default button";
+        }
+        for (const QString &problem : found) {
+            problems += name + ": " + problem;
+        }
+    });
     QVERIFY2(problems.isEmpty(), qPrintable('\n' + problems.join('\n')));
     QVERIFY2(missing.isEmpty(), qPrintable(missing.keys().join(' ')));
     QVERIFY(visited >= 27);

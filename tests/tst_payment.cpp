@@ -59,8 +59,7 @@ void PaymentTest::confirmationTexts_data()
                 << QString(protocol) << operations[i] << texts.value(i);
         }
     };
-    const QStringList names = {"Оплата", "Возврат", "Отмена оплаты", "Отмена возврата",
-                               "Оплата услуг картой"};
+    const QStringList names = {"Оплата", "Возврат", "Отмена оплаты", "Отмена возврата", "Оплата услуг картой"};
     const auto filled = [&](const QStringList &patterns) {
         QStringList texts;
         for (int i = 0; i < 5; ++i) {
@@ -81,8 +80,7 @@ void PaymentTest::confirmationTexts_data()
         rows(protocol, {});
     }
     for (const int operation : {-1, 11}) {
-        QTest::addRow("protocol 0, operation %d", operation)
-            << "0" << operation << "Проверка данных<br>Сумма: 10.00";
+        QTest::addRow("protocol 0, operation %d", operation) << "0" << operation << "Проверка данных<br>Сумма: 10.00";
     }
 }
 
@@ -116,8 +114,7 @@ void PaymentTest::servicePaymentText()
     operation.account = "42";
     QCOMPARE(confirmationText(shop), "Проверка данных<br>" + sums + "<br>Номер счета: 42");
     operation.phone = "(000)";
-    QCOMPARE(confirmationText(shop),
-             "Проверка данных<br>" + sums + "<br>Номер телефона: (000)<br>Номер счета: 42");
+    QCOMPARE(confirmationText(shop), "Проверка данных<br>" + sums + "<br>Номер телефона: (000)<br>Номер счета: 42");
 }
 
 void PaymentTest::confirmationAnswers()
@@ -143,8 +140,7 @@ void PaymentTest::confirmationFailure()
     QCOMPARE(shop.run(ConfirmPayment,
                       {
                           [&](QWidget *window) {
-                              shown =
-                                  window->windowTitle() + ": " + qobject_cast<QMessageBox *>(window)->text();
+                              shown = window->windowTitle() + ": " + qobject_cast<QMessageBox *>(window)->text();
                           },
                           key(Qt::Key_Return),
                       }),
@@ -197,9 +193,8 @@ void PaymentTest::manyOperators()
 {
     Values values = {{"Operators", 2000000000}};
     for (int i = 0; i < 10000; ++i) {
-        values.emplace_back(
-            QString("Operator%1").arg(i),
-            document({{"Name", i == 1 ? QString("щ").repeated(10000) : QString("Оператор %1").arg(i)}}));
+        values.emplace_back(QString("Operator%1").arg(i), document({{"Name", i == 1 ? QString("щ").repeated(10000)
+                                                                                    : QString("Оператор %1").arg(i)}}));
     }
     Register shop(values);
     QCOMPARE(shop.run(SelectOperator,
@@ -254,8 +249,7 @@ void PaymentTest::commissionPreview()
     QFETCH(QString, added);
     Register shop(
         {{"Operators", 1},
-         {"Operator0",
-          document({{"MinSum", 10}, {"MaxSum", max}, {"Comission", rate}, {"ComissionType", type}})}});
+         {"Operator0", document({{"MinSum", 10}, {"MaxSum", max}, {"Comission", rate}, {"ComissionType", type}})}});
     shop.driver.operation.operatorIndex = 0;
     shop.driver.operation.sum = sum;
     const auto look = [](QWidget *window, const QString &expected) {
@@ -300,20 +294,19 @@ void PaymentTest::commissionAnswers()
     QCOMPARE(shop.run(CommissionAddition, {key(Qt::Key_Escape)}), 0);
 
     // A driver that fails while the dialog is open.
-    QCOMPARE(
-        shop.run(CommissionAddition,
-                 {
-                     [&](QWidget *window) {
-                         shop.driver.failOperation("getSum", {Fault::ThrowOther, 1, QString(), QString()});
-                         child<QComboBox>(window, "cmbCommissionAddition")->setCurrentIndex(1);
-                     },
-                     [](QWidget *window) {
-                         QCOMPARE(qobject_cast<QMessageBox *>(window)->text(),
-                                  QString("Ошибка выбора способа начисления комиссии"));
-                     },
-                     press("OK"),
-                 }),
-        -1);
+    QCOMPARE(shop.run(CommissionAddition,
+                      {
+                          [&](QWidget *window) {
+                              shop.driver.failOperation("getSum", {Fault::ThrowOther, 1, QString(), QString()});
+                              child<QComboBox>(window, "cmbCommissionAddition")->setCurrentIndex(1);
+                          },
+                          [](QWidget *window) {
+                              QCOMPARE(qobject_cast<QMessageBox *>(window)->text(),
+                                       QString("Ошибка выбора способа начисления комиссии"));
+                          },
+                          press("OK"),
+                      }),
+             -1);
 }
 
 QTEST_MAIN(PaymentTest)

@@ -24,8 +24,6 @@ private slots:
     void ways();
     void directory();
     void refusals();
-    void cancelling_data();
-    void cancelling();
     void slip();
     void operatorList();
     void operatorDeletion();
@@ -33,13 +31,10 @@ private slots:
     void operatorRules();
     void cyberPlat();
     void cyberPlatRules();
-    void arcus2_data();
     void arcus2();
-    void lumiPay_data();
     void lumiPay();
     void terminal_data();
     void terminal();
-    void terminalPages_data();
     void terminalPages();
 };
 
@@ -134,54 +129,57 @@ void PropertiesTest::protocols_data()
 {
     QTest::addColumn<int>("protocol");
     QTest::addColumn<QString>("enabledWidgets"); // directory, time-out, parameters, operators, slip
-    QTest::addColumn<QString>("settingsTitle");
-    const auto row = [](int protocol, const char *widgets, const char *title) {
-        QTest::addRow("protocol %d", protocol) << protocol << QString(widgets) << QString(title);
+    QTest::addColumn<QString>("parameters");     // window, input and key of the protocol's own settings
+    const auto row = [](int protocol, const char *widgets, const char *parameters) {
+        QTest::addRow("protocol %d", protocol) << protocol << QString(widgets) << QString(parameters);
     };
     row(0, "dt--s", "");
     row(1, "-----", "");
-    row(2, "dtpos", "Свойства CyberPlat");
+    row(2, "dtpos", "Свойства CyberPlat/spinDealerCode/DealerCode");
     row(3, "-----", "");
     row(4, "d---s", "");
     row(5, "-----", "");
-    row(6, "dtp-s", "Свойства Arcom ARCUS2");
+    row(6, "dtp-s", "Свойства Arcom ARCUS2/spinOpcodePrintJournal/OpcodePrintJournal");
     row(7, "dt--s", "");
-    row(8, "d-p-s", "Свойства Inpas SmartSale (LumiPay)");
-    row(9, "d-p-s", "Свойства Arcom ARCUS2 (LumiPay)");
-    row(10, "d-p-s", "Свойства Арком АРКУС2");
-    row(11, "d-p-s", "Свойства Сбербанк");
-    row(12, "d-p-s", "Свойства INPAS SmartSale");
-    row(13, "d-p-s", "Свойства ARCOM Arcus2");
+    row(8, "d-p-s", "Свойства Inpas SmartSale (LumiPay)/cmbModemMode/ModemMode");
+    row(9, "d-p-s", "Свойства Arcom ARCUS2 (LumiPay)/cmbModemMode/ModemMode");
+    row(10, "d-p-s", "Свойства Арком АРКУС2/cmbModemMode/ModemMode");
+    row(11, "d-p-s", "Свойства Сбербанк/cmbPort/Port");
+    row(12, "d-p-s", "Свойства INPAS SmartSale/cmbPort/Port");
+    row(13, "d-p-s", "Свойства ARCOM Arcus2/cmbPort/Port");
 }
 
 void PropertiesTest::protocols()
 {
     QFETCH(int, protocol);
     QFETCH(QString, enabledWidgets);
-    QFETCH(QString, settingsTitle);
-    Register shop({{"Protocol", protocol}});
-    QString title;
-    std::vector<Step> steps = {[&](QWidget *window) {
-        const char *const widgets[] = {"lePathACDialog", "spinTimeout", "pbtnSettingsButton", "pbtnOperators",
-                                       "pbtnSlip"};
+    QFETCH(QString, parameters);
+    Register shop({{"Protocol", protocol}, {"KeyLoadPwd", "x"}});
+    const auto look = [&](QWidget *window) {
         QString seen;
-        for (int i = 0; i < 5; ++i) {
-            seen += enabled(window, widgets[i]) ? "dtpos"[i] : '-';
+        for (const char *widget :
+             {"lePathACDialog", "spinTimeout", "pbtnSettingsButton", "pbtnOperators", "pbtnSlip"}) {
+            seen += enabled(window, widget) ? "dtpos"[seen.size()] : '-';
         }
         QCOMPARE(seen, enabledWidgets);
         QCOMPARE(enabled(window, "pbtnPathACDialog"), seen[0] == 'd');
-        ModalScript::press(window, "pbtnSettingsButton");
-    }};
-    if (!settingsTitle.isEmpty()) {
-        steps.emplace_back([&](QWidget *window) {
-            title = window->windowTitle();
-            window->close();
-        });
+    };
+    QCOMPARE(shop.run(ShowProperties, {look, press("pbtnCancel")}), 0);
+    if (parameters.isEmpty()) {
+        return;
     }
-    steps.push_back(press("pbtnCancel"));
-    QCOMPARE(shop.run(ShowProperties, steps), 0);
-    QVERIFY(shop.completed);
-    QCOMPARE(title, settingsTitle);
+    // What the protocol's own window changes counts only when both windows are accepted.
+    const auto change = [&](QWidget *window) {
+        QCOMPARE(window->windowTitle(), parameters.section('/', 0, 0));
+        enter(window, parameters.section('/', 1, 1).toUtf8(), "1");
+    };
+    const auto storedAfter = [&](const char *first, const char *second) {
+        shop.run(ShowProperties, {press("pbtnSettingsButton"), change, press(first), press(second)});
+        return shop.completed && shop.stored(parameters.section('/', 2).toUtf8()).isValid();
+    };
+    QVERIFY(!storedAfter("pbtnCancel", "pbtnOk"));
+    QVERIFY(!storedAfter("pbtnOk", "pbtnCancel"));
+    QVERIFY(storedAfter("pbtnOk", "pbtnOk"));
 }
 
 // The settings of one window, its file and the next window.
@@ -309,45 +307,6 @@ void PropertiesTest::refusals()
     QCOMPARE(shop.calls("setPropertiesShown"), 2);
 }
 
-void PropertiesTest::cancelling_data()
-{
-    QTest::addColumn<int>("protocol");
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("widget");
-    QTest::addColumn<QString>("key");
-    const auto row = [](int protocol, const char *button, const char *widget, const char *key) {
-        QTest::addRow("%d %s", protocol, button)
-            << protocol << QString(button) << QString(widget) << QString(key);
-    };
-    row(2, "pbtnSettingsButton", "spinDealerCode", "DealerCode");
-    row(6, "pbtnSettingsButton", "spinOpcodeCloseDay", "OpcodeCloseDay");
-    for (const int protocol : {8, 9, 10}) {
-        row(protocol, "pbtnSettingsButton", "cmbModemMode", "ModemMode");
-    }
-    for (const int protocol : {11, 12, 13}) {
-        row(protocol, "pbtnSettingsButton", "cmbPort", "Port");
-    }
-    row(0, "pbtnSlip", "teHeader", "Slip");
-}
-
-// What a sub-dialog changes counts only when it and the properties are both accepted.
-void PropertiesTest::cancelling()
-{
-    QFETCH(int, protocol);
-    QFETCH(QString, button);
-    QFETCH(QString, widget);
-    QFETCH(QString, key);
-    Register shop({{"Protocol", protocol}, {"KeyLoadPwd", "x"}, {"PathAC", ""}, {"Timeout", 0}});
-    const auto change = [&](QWidget *window) { enter(window, widget.toUtf8(), "1"); };
-    const auto storedAfter = [&](const char *first, const char *second) {
-        shop.run(ShowProperties, {press(button.toUtf8()), change, press(first), press(second)});
-        return shop.completed && shop.stored(key.toUtf8()).isValid();
-    };
-    QVERIFY(!storedAfter("pbtnCancel", "pbtnOk"));
-    QVERIFY(!storedAfter("pbtnOk", "pbtnCancel"));
-    QVERIFY(storedAfter("pbtnOk", "pbtnOk"));
-}
-
 void PropertiesTest::slip()
 {
     const QString large = QString("строка\n").repeated(150000);
@@ -359,9 +318,7 @@ void PropertiesTest::slip()
         QVERIFY(!enabled(window, "checkHideCard"));
         QVERIFY(child<QTextEdit>(window, "teHeader")->alignment().testFlag(Qt::AlignHCenter));
     };
-    QCOMPARE(
-        shop.run(ShowProperties, {press("pbtnSlip"), look, fill(fields), press("pbtnOk"), press("pbtnOk")}),
-        1);
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnSlip"), look, fill(fields), press("pbtnOk"), press("pbtnOk")}), 1);
     compareStored(nested(shop, "Slip"), fields);
     QCOMPARE(nested(shop, "Slip").get("Width").toInt(), 32);
 }
@@ -419,9 +376,8 @@ void PropertiesTest::operatorList()
 
 void PropertiesTest::operatorDeletion()
 {
-    Register shop({{"Operators", 2},
-                   {"Operator0", document({{"Name", "A"}})},
-                   {"Operator1", document({{"Name", "B"}})}});
+    Register shop(
+        {{"Operators", 2}, {"Operator0", document({{"Name", "A"}})}, {"Operator1", document({{"Name", "B"}})}});
     const auto remove = [](QWidget *window) {
         QListWidget *list = child<QListWidget>(window, "lwOperators");
         list->setCurrentRow(0);
@@ -430,8 +386,8 @@ void PropertiesTest::operatorDeletion()
         QVERIFY(enabled(window, "pbtnDelete") != enabled(window, "pbtnEdit"));
         QCOMPARE(enabled(window, "pbtnDelete"), list->count() == 1);
     };
-    QCOMPARE(shop.run(ShowProperties, {press("pbtnOperators"), remove, remove, press("pbtnEdit"),
-                                       press("pbtnOk"), press("pbtnOk")}),
+    QCOMPARE(shop.run(ShowProperties,
+                      {press("pbtnOperators"), remove, remove, press("pbtnEdit"), press("pbtnOk"), press("pbtnOk")}),
              1);
     QVERIFY(shop.completed);
     QCOMPARE(shop.stored("Operators").toInt(), 0);
@@ -455,16 +411,15 @@ void PropertiesTest::operatorRecord()
                                        {"leSumWareCode", "SumWareCode", "", "100"},
                                        {"leCommissionWareCode", "ComissionWareCode", "", "200"}};
     Register shop;
-    QCOMPARE(shop.run(ShowProperties, {press("pbtnOperators"), press("pbtnAdd"), fill(fields),
-                                       press("pbtnOk"), press("pbtnOk"), press("pbtnOk")}),
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnOperators"), press("pbtnAdd"), fill(fields), press("pbtnOk"),
+                                       press("pbtnOk"), press("pbtnOk")}),
              1);
     compareStored(nested(shop, "Operator0"), fields);
 }
 
 void PropertiesTest::operatorRules()
 {
-    Register shop(
-        {{"Operators", 1}, {"Operator0", document({{"Name", "A"}, {"Code", 1}, {"ComissionType", 7}})}});
+    Register shop({{"Operators", 1}, {"Operator0", document({{"Name", "A"}, {"Code", 1}, {"ComissionType", 7}})}});
     const auto rules = [](QWidget *window) {
         QCOMPARE(shown(window, "cmbCommissionType"), QString("0"));
         const auto expect = [&](const QString &error) {
@@ -489,8 +444,7 @@ void PropertiesTest::operatorRules()
         QListWidget *list = child<QListWidget>(window, "lwOperators");
         QTimer::singleShot(0, list, [=] { emit list->itemDoubleClicked(list->item(0)); });
     };
-    shop.run(ShowProperties,
-             {press("pbtnOperators"), edit, rules, press("pbtnOk"), press("pbtnOk"), press("pbtnOk")});
+    shop.run(ShowProperties, {press("pbtnOperators"), edit, rules, press("pbtnOk"), press("pbtnOk"), press("pbtnOk")});
     QVERIFY(shop.completed);
     QCOMPARE(nested(shop, "Operator0").get("MinSum").toString(), QString("100"));
 }
@@ -515,8 +469,8 @@ void PropertiesTest::cyberPlat()
                                        {"spinProxyPort", "ProxyPort", "8080", "65535"},
                                        {"spinSerialKeyNumber", "SerialKeyNumber", "0", "4"},
                                        {"leProxyServer", "ProxyServer", "localhost", "proxy"}};
-    QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), defaults, fill(fields), press("pbtnOk"),
-                                       press("pbtnOk")}),
+    QCOMPARE(shop.run(ShowProperties,
+                      {press("pbtnSettingsButton"), defaults, fill(fields), press("pbtnOk"), press("pbtnOk")}),
              1);
     compareStored(QNoxSettings(shop.driver.settings()), fields);
     QCOMPARE(shop.stored("URL").toString(), url);
@@ -530,8 +484,7 @@ void PropertiesTest::cyberPlatRules()
 {
     Register shop({{"KeyLoadPwd", "x"}, {"UseProxy", "true"}});
     const auto rules = [](QWidget *window) {
-        QVERIFY(enabled(window, "pbtnOk") && enabled(window, "leProxyServer") &&
-                enabled(window, "spinProxyPort"));
+        QVERIFY(enabled(window, "pbtnOk") && enabled(window, "leProxyServer") && enabled(window, "spinProxyPort"));
         enter(window, "leProxyServer", QString());
         QCOMPARE(text(window, "lbError"), QString("Ошибка: Не указан адрес прокси-сервера"));
         enter(window, "leURL", QString());
@@ -547,78 +500,53 @@ void PropertiesTest::cyberPlatRules()
     QCOMPARE(shop.stored("UseProxy").toString(), QString("true"));
 }
 
-void PropertiesTest::arcus2_data()
-{
-    QTest::addColumn<QVariant>("closeDay");
-    QTest::addColumn<QVariant>("printJournal");
-    QTest::addColumn<QString>("shownCodes");
-    QTest::addColumn<QString>("error");
-    const QString equal = "Коды операций не могут совпадать";
-    const QString placeholder = "Ошибка: здесь сообщение об ошибке в параметрах";
-    QTest::newRow("different") << QVariant(5) << QVariant(7) << "5 7" << QString();
-    QTest::newRow("equal") << QVariant(3) << QVariant(3) << "3 3" << equal;
-    QTest::newRow("nothing stored") << QVariant() << QVariant() << "1 1" << placeholder;
-    QTest::newRow("nothing changes") << QVariant(1) << QVariant(0) << "1 1" << placeholder;
-    QTest::newRow("one changes") << QVariant(1) << QVariant(3) << "1 3" << QString();
-    QTest::newRow("out of range") << QVariant(150) << QVariant(-4) << "99 1" << QString();
-}
-
 void PropertiesTest::arcus2()
 {
-    QFETCH(QVariant, closeDay);
-    QFETCH(QVariant, printJournal);
-    QFETCH(QString, shownCodes);
-    QFETCH(QString, error);
-    Values values = {{"Protocol", 6}};
-    if (closeDay.isValid()) {
-        values.insert(values.end(), {{"OpcodeCloseDay", closeDay}, {"OpcodePrintJournal", printJournal}});
-    }
-    Register shop(values);
-    const auto look = [&](QWidget *window) {
-        QCOMPARE(shown(window, "spinOpcodeCloseDay") + ' ' + shown(window, "spinOpcodePrintJournal"),
-                 shownCodes);
-        QCOMPARE(text(window, "lbError").remove(QRegularExpression("<[^>]*>")), error);
-        QVERIFY(enabled(window, "pbtnOk"));
-    };
-    QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), look, press("pbtnOk"), press("pbtnOk")}),
-             1);
-    QCOMPARE(shop.stored("OpcodeCloseDay").toString() + ' ' + shop.stored("OpcodePrintJournal").toString(),
-             shownCodes);
-}
-
-void PropertiesTest::lumiPay_data()
-{
-    QTest::addColumn<int>("protocol");
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QString>("mode");
-    for (const int protocol : {8, 9, 10}) {
-        QTest::addRow("%d, nothing", protocol) << protocol << QVariant() << "0";
-        QTest::addRow("%d, modem", protocol) << protocol << QVariant("1") << "1";
-        QTest::addRow("%d, unknown", protocol) << protocol << QVariant(7) << "0";
+    const QString equal = "Коды операций не могут совпадать";
+    const QString placeholder = "Ошибка: здесь сообщение об ошибке в параметрах"; // until a value changes
+    const struct
+    {
+        QVariant closeDay, printJournal;
+        QString codes, error;
+    } rows[] = {{5, 7, "5 7", ""},          {3, 3, "3 3", equal}, {{}, {}, "1 1", placeholder},
+                {1, 0, "1 1", placeholder}, {1, 3, "1 3", ""},    {150, -4, "99 1", ""}};
+    for (const auto &row : rows) {
+        Values values = {{"Protocol", 6}};
+        if (row.closeDay.isValid()) {
+            values.insert(values.end(), {{"OpcodeCloseDay", row.closeDay}, {"OpcodePrintJournal", row.printJournal}});
+        }
+        Register shop(values);
+        const auto look = [&](QWidget *window) {
+            QCOMPARE(shown(window, "spinOpcodeCloseDay") + ' ' + shown(window, "spinOpcodePrintJournal"), row.codes);
+            QCOMPARE(text(window, "lbError").remove(QRegularExpression("<[^>]*>")), row.error);
+        };
+        // Equal codes can be saved.
+        QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), look, press("pbtnOk"), press("pbtnOk")}), 1);
+        QCOMPARE(shop.stored("OpcodeCloseDay").toString() + ' ' + shop.stored("OpcodePrintJournal").toString(),
+                 row.codes);
     }
 }
 
 void PropertiesTest::lumiPay()
 {
-    QFETCH(int, protocol);
-    QFETCH(QVariant, stored);
-    QFETCH(QString, mode);
-    Values values = {{"Protocol", protocol}};
-    if (stored.isValid()) {
-        values.emplace_back("ModemMode", stored);
+    const std::pair<QVariant, QString> rows[] = {{QVariant(), "0"}, {"1", "1"}, {7, "0"}};
+    for (const int protocol : {8, 9, 10}) {
+        for (const auto &row : rows) {
+            Values values = {{"Protocol", protocol}};
+            if (row.first.isValid()) {
+                values.emplace_back("ModemMode", row.first);
+            }
+            Register shop(values);
+            std::vector<Field> fields = {{"cmbModemMode", "ModemMode", row.second, row.second == "0" ? "1" : "0"}};
+            const bool hasTerminal = protocol == 8;
+            if (hasTerminal) {
+                fields.push_back({"leTerminalID", "TerminalID", "", "T 1"});
+            }
+            shop.run(ShowProperties, {press("pbtnSettingsButton"), fill(fields), press("pbtnOk"), press("pbtnOk")});
+            compareStored(QNoxSettings(shop.driver.settings()), fields);
+            QCOMPARE(shop.stored("TerminalID").isValid(), hasTerminal);
+        }
     }
-    Register shop(values);
-    const QString other = mode == "0" ? "1" : "0";
-    std::vector<Field> fields = {{"cmbModemMode", "ModemMode", mode, other}};
-    const bool hasTerminal = protocol == 8;
-    if (hasTerminal) {
-        fields.push_back({"leTerminalID", "TerminalID", "", "T 1"});
-    }
-    QCOMPARE(shop.run(ShowProperties,
-                      {press("pbtnSettingsButton"), fill(fields), press("pbtnOk"), press("pbtnOk")}),
-             1);
-    compareStored(QNoxSettings(shop.driver.settings()), fields);
-    QCOMPARE(shop.stored("TerminalID").isValid(), hasTerminal);
 }
 
 void PropertiesTest::terminal_data()
@@ -669,71 +597,51 @@ void PropertiesTest::terminal()
             enter(window, "leTerminalID", "T9");
         }
     };
-    QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), edit, press("pbtnOk"), press("pbtnOk")}),
-             1);
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), edit, press("pbtnOk"), press("pbtnOk")}), 1);
     QNoxSettings expected(document(values));
     const QStringList pairs = changed.split(' ');
     for (const QString &pair : pairs) {
         expected.set(pair.section('=', 0, 0), pair.section('=', 1));
     }
-    for (const char *key :
-         {"Port", "BaudRate", "TTYSuffix", "IPAddress", "IPPort", "Vid", "Pid", "TerminalID"}) {
+    for (const char *key : {"Port", "BaudRate", "TTYSuffix", "IPAddress", "IPPort", "Vid", "Pid", "TerminalID"}) {
         QCOMPARE(shop.stored(key).toString(), expected.get(key).toString());
-    }
-}
-
-void PropertiesTest::terminalPages_data()
-{
-    QTest::addColumn<int>("protocol");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("port");
-    QTest::addColumn<QString>("page");
-    for (const int protocol : {11, 12, 13}) {
-        QTest::addRow("%d, nothing", protocol) << protocol << ""
-                                               << "0"
-                                               << "pageSerialPortSettings";
-        QTest::addRow("%d, last serial", protocol) << protocol << "99"
-                                                   << "99"
-                                                   << "pageSerialPortSettings";
-        QTest::addRow("%d, one too many", protocol) << protocol << "100"
-                                                    << "0"
-                                                    << "pageSerialPortSettings";
-        QTest::addRow("%d, device file", protocol) << protocol << "TTY"
-                                                   << "TTY"
-                                                   << "pageTtySettings";
-        QTest::addRow("%d, USB", protocol) << protocol << "USB"
-                                           << "USB"
-                                           << "pageUsbSettings";
-        QTest::addRow("%d, network", protocol)
-            << protocol << "TCPIP" << (protocol == 11 ? "TCPIP" : "0")
-            << (protocol == 11 ? "pageNetSettings" : "pageSerialPortSettings");
     }
 }
 
 void PropertiesTest::terminalPages()
 {
-    QFETCH(int, protocol);
-    QFETCH(QString, stored);
-    QFETCH(QString, port);
-    QFETCH(QString, page);
-    Register shop({{"Protocol", protocol}, {"Port", stored}});
-    const auto look = [&](QWidget *window) {
-        QCOMPARE(shown(window, "cmbPort"), port);
-        QCOMPARE(child<QStackedWidget>(window, "stackExtSettings")->currentWidget()->objectName(), page);
-        const QComboBox *ports = child<QComboBox>(window, "cmbPort");
-        QStringList first;
-        for (int i = 0; i < 4; ++i) {
-            first += ports->itemText(i);
-        }
-        QCOMPARE(first.join(','), QString(protocol == 11 ? "TCP/IP,USB,Файл устройства,COM0"
-                                                         : "USB,Файл устройства,COM0,COM1"));
-        QCOMPARE(shown(window, "cmbSerialBaudrate"), QString("9600"));
-        QCOMPARE(shown(window, "cmbTtyBaudrate"), QString("9600"));
-        QCOMPARE(shown(window, "leUsbVid"), QString("0000"));
+    const char *const serialPage = "pageSerialPortSettings";
+    const struct
+    {
+        const char *stored, *port, *page;
+    } rows[] = {{"", "0", serialPage},     {"99", "99", serialPage},          {"100", "0", serialPage},
+                {"COM1", "0", serialPage}, {"TTY", "TTY", "pageTtySettings"}, {"USB", "USB", "pageUsbSettings"}};
+    const auto look = [](const QString &port, const QString &page, const QString &ports) {
+        return [=](QWidget *window) {
+            QCOMPARE(shown(window, "cmbPort"), port);
+            QCOMPARE(child<QStackedWidget>(window, "stackExtSettings")->currentWidget()->objectName(), page);
+            QStringList first;
+            for (int i = 0; i < 4; ++i) {
+                first += child<QComboBox>(window, "cmbPort")->itemText(i);
+            }
+            QCOMPARE(first.join(','), ports);
+            QCOMPARE(shown(window, "cmbSerialBaudrate") + shown(window, "cmbTtyBaudrate"), QString("96009600"));
+            QCOMPARE(shown(window, "leUsbVid"), QString("0000"));
+        };
     };
-    QCOMPARE(shop.run(ShowProperties,
-                      {press("pbtnSettingsButton"), look, press("pbtnCancel"), press("pbtnCancel")}),
-             0);
+    for (const int protocol : {11, 12, 13}) {
+        const bool network = protocol == 11;
+        const QString ports = network ? "TCP/IP,USB,Файл устройства,COM0" : "USB,Файл устройства,COM0,COM1";
+        const auto open = [&](const QString &stored, const Step &step) {
+            Register shop({{"Protocol", protocol}, {"Port", stored}});
+            shop.run(ShowProperties, {press("pbtnSettingsButton"), step, press("pbtnCancel"), press("pbtnCancel")});
+            QVERIFY(shop.completed);
+        };
+        for (const auto &row : rows) {
+            open(row.stored, look(row.port, row.page, ports));
+        }
+        open("TCPIP", network ? look("TCPIP", "pageNetSettings", ports) : look("0", serialPage, ports));
+    }
 }
 
 QTEST_MAIN(PropertiesTest)

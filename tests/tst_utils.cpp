@@ -92,9 +92,7 @@ void UtilsTest::wideLists()
     QComboBox combo;
     combo.addItem("old");
     combo.setEnabled(false);
-    QCOMPARE(WStrToQCombo(&combo, list.toStdWString().c_str(),
-                          key.isNull() ? nullptr : key.toStdWString().c_str()),
-             0);
+    QCOMPARE(WStrToQCombo(&combo, list.toStdWString().c_str(), key.isNull() ? nullptr : key.toStdWString().c_str()), 0);
     QStringList texts;
     for (int i = 0; i < combo.count(); ++i) {
         texts += combo.itemText(i);
@@ -113,8 +111,8 @@ void UtilsTest::deviceList()
     for (int i = 1; i < list.count(); ++i) {
         const QListWidgetItem *item = list.item(i);
         QCOMPARE(item->checkState(), Qt::Checked);
-        seen += item->text() + '=' + item->data(Qt::UserRole).toString() + '/' +
-                item->data(Qt::UserRole + 1).toString();
+        seen +=
+            item->text() + '=' + item->data(Qt::UserRole).toString() + '/' + item->data(Qt::UserRole + 1).toString();
     }
     QCOMPARE(seen.join(' '), QString("COM1=TTY/0 USB=USB/ Two=BT/ Three=TTY/"));
 }

@@ -58,8 +58,8 @@ void setNameAndVersion(QLabel *label, const QString &name, const QString &versio
 } // namespace
 
 DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion, QWidget *parent)
-    : DialogAbout(driverName, driverVersion, QString::fromWCharArray(GuiName),
-                  QString::fromWCharArray(GuiVersion), parent)
+    : DialogAbout(driverName, driverVersion, QString::fromWCharArray(GuiName), QString::fromWCharArray(GuiVersion),
+                  parent)
 {
     ui->tree_license->setItemDelegate(new NoFocusItemDelegate(ui->tree_license));
     ui->header_container->setStyleSheet(tr("#header_container{background-color: rgb(255, 255, 255);}"));
@@ -107,17 +107,16 @@ void DialogAbout::setLicenseInfo()
     for (const OutsideLibrary &library : OutsideLibraries) {
         const QStringList columns = {QString::fromLatin1(library.name), QString::fromLatin1(library.version)};
         QTreeWidgetItem *item = new QTreeWidgetItem(ui->tree_license, columns);
-        QLabel *license =
-            new QLabel(QString::fromLatin1("<a href=\"%1\">%2</a>")
-                           .arg(QString::fromLatin1(library.link), QString::fromLatin1(library.license)));
+        QLabel *license = new QLabel(QString::fromLatin1("<a href=\"%1\">%2</a>")
+                                         .arg(QString::fromLatin1(library.link), QString::fromLatin1(library.license)));
         license->setOpenExternalLinks(true);
         ui->tree_license->setItemWidget(item, 2, license);
     }
     for (int column = 0; column < ui->tree_license->columnCount(); ++column) {
         // Wider than the default where the font asks for it.
         ui->tree_license->resizeColumnToContents(column);
-        ui->tree_license->setColumnWidth(column, std::max(ui->tree_license->columnWidth(column),
-                                                          ui->tree_license->header()->defaultSectionSize()));
+        ui->tree_license->setColumnWidth(
+            column, std::max(ui->tree_license->columnWidth(column), ui->tree_license->header()->defaultSectionSize()));
     }
 }
 

@@ -46,8 +46,7 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
                                           const QString &text, QMessageBox::StandardButtons buttons,
                                           QMessageBox::StandardButton defaultButton)
 {
-    ScopedDialog<QMessageBox> box(icon, title, text, buttons, parent,
-                                  Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    ScopedDialog<QMessageBox> box(icon, title, text, buttons, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     clearHelpButton(*box);
     box->setDefaultButton(defaultButton);
     prepareToShow(*box);
@@ -92,8 +91,7 @@ QString firstSelected(const QFileDialog &dialog)
     return files.isEmpty() ? QString() : files.first();
 }
 
-QString runFileDialog(const ScopedDialog<QFileDialog> &dialog, QString *selectedFilter,
-                      QFileDialog::Options options)
+QString runFileDialog(const ScopedDialog<QFileDialog> &dialog, QString *selectedFilter, QFileDialog::Options options)
 {
     // Setting modes changes options, so these come after.
     dialog->setOptions(options);
@@ -156,24 +154,21 @@ QMessageBox::StandardButton NoHelpButtonMessageBox::information(QWidget *parent,
     return runMessageBox(QMessageBox::Information, parent, title, text, buttons, defaultButton);
 }
 
-QMessageBox::StandardButton NoHelpButtonMessageBox::warning(QWidget *parent, const QString &title,
-                                                            const QString &text,
+QMessageBox::StandardButton NoHelpButtonMessageBox::warning(QWidget *parent, const QString &title, const QString &text,
                                                             QMessageBox::StandardButtons buttons,
                                                             QMessageBox::StandardButton defaultButton)
 {
     return runMessageBox(QMessageBox::Warning, parent, title, text, buttons, defaultButton);
 }
 
-QMessageBox::StandardButton NoHelpButtonMessageBox::question(QWidget *parent, const QString &title,
-                                                             const QString &text,
+QMessageBox::StandardButton NoHelpButtonMessageBox::question(QWidget *parent, const QString &title, const QString &text,
                                                              QMessageBox::StandardButtons buttons,
                                                              QMessageBox::StandardButton defaultButton)
 {
     return runMessageBox(QMessageBox::Question, parent, title, text, buttons, defaultButton);
 }
 
-QMessageBox::StandardButton NoHelpButtonMessageBox::critical(QWidget *parent, const QString &title,
-                                                             const QString &text)
+QMessageBox::StandardButton NoHelpButtonMessageBox::critical(QWidget *parent, const QString &title, const QString &text)
 {
     return runMessageBox(QMessageBox::Critical, parent, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
@@ -190,8 +185,8 @@ QString NoHelpButtonInputDialog::getText(QWidget *parent, const QString &title, 
     return accepted ? dialog->textValue() : QString();
 }
 
-int NoHelpButtonInputDialog::getInt(QWidget *parent, const QString &title, const QString &label, bool *ok,
-                                    int value, int minimum, int maximum)
+int NoHelpButtonInputDialog::getInt(QWidget *parent, const QString &title, const QString &label, bool *ok, int value,
+                                    int minimum, int maximum)
 {
     ScopedDialog<QInputDialog> dialog(parent);
     prepareInput(*dialog, title, label);
@@ -203,8 +198,8 @@ int NoHelpButtonInputDialog::getInt(QWidget *parent, const QString &title, const
     return dialog->intValue();
 }
 
-double NoHelpButtonInputDialog::getDouble(QWidget *parent, const QString &title, const QString &label,
-                                          bool *ok, double value, double minimum, double maximum)
+double NoHelpButtonInputDialog::getDouble(QWidget *parent, const QString &title, const QString &label, bool *ok,
+                                          double value, double minimum, double maximum)
 {
     ScopedDialog<QInputDialog> dialog(parent);
     prepareInput(*dialog, title, label);
@@ -215,18 +210,18 @@ double NoHelpButtonInputDialog::getDouble(QWidget *parent, const QString &title,
     return number;
 }
 
-QString NoHelpButtonFileDialog::getOpenFileName(QWidget *parent, const QString &caption,
-                                                const QString &directory, const QString &filter,
-                                                QString *selectedFilter, QFileDialog::Options options)
+QString NoHelpButtonFileDialog::getOpenFileName(QWidget *parent, const QString &caption, const QString &directory,
+                                                const QString &filter, QString *selectedFilter,
+                                                QFileDialog::Options options)
 {
     ScopedDialog<QFileDialog> dialog(parent, caption, directory, filter);
     dialog->setFileMode(QFileDialog::ExistingFile);
     return runFileDialog(dialog, selectedFilter, options);
 }
 
-QString NoHelpButtonFileDialog::getSaveFileName(QWidget *parent, const QString &caption,
-                                                const QString &directory, const QString &filter,
-                                                QString *selectedFilter, QFileDialog::Options options)
+QString NoHelpButtonFileDialog::getSaveFileName(QWidget *parent, const QString &caption, const QString &directory,
+                                                const QString &filter, QString *selectedFilter,
+                                                QFileDialog::Options options)
 {
     // A file's path given as the directory would be doubled in the result of the newer releases.
     const QFileInfo target(directory);
@@ -240,8 +235,8 @@ QString NoHelpButtonFileDialog::getSaveFileName(QWidget *parent, const QString &
     return runFileDialog(dialog, selectedFilter, options);
 }
 
-QString NoHelpButtonFileDialog::getExistingDirectory(QWidget *parent, const QString &caption,
-                                                     const QString &directory, QFileDialog::Options options)
+QString NoHelpButtonFileDialog::getExistingDirectory(QWidget *parent, const QString &caption, const QString &directory,
+                                                     QFileDialog::Options options)
 {
     ScopedDialog<QFileDialog> dialog(parent, caption, directory);
     dialog->setOptions(options);

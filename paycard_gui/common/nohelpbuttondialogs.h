@@ -53,18 +53,15 @@ class PAYCARD_EXPORT NoHelpButtonMessageBox
 public:
     NoHelpButtonMessageBox() = delete;
 
-    static QMessageBox::StandardButton
-    information(QWidget *parent, const QString &title, const QString &text,
-                QMessageBox::StandardButtons buttons = QMessageBox::Ok,
-                QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
-    static QMessageBox::StandardButton
-    warning(QWidget *parent, const QString &title, const QString &text,
-            QMessageBox::StandardButtons buttons = QMessageBox::Ok,
-            QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    static QMessageBox::StandardButton information(QWidget *parent, const QString &title, const QString &text,
+                                                   QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+                                                   QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    static QMessageBox::StandardButton warning(QWidget *parent, const QString &title, const QString &text,
+                                               QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+                                               QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
     static QMessageBox::StandardButton
     question(QWidget *parent, const QString &title, const QString &text,
-             QMessageBox::StandardButtons buttons = QMessageBox::StandardButtons(QMessageBox::Yes |
-                                                                                 QMessageBox::No),
+             QMessageBox::StandardButtons buttons = QMessageBox::StandardButtons(QMessageBox::Yes | QMessageBox::No),
              QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
     /// With an OK button only.
     static QMessageBox::StandardButton critical(QWidget *parent, const QString &title, const QString &text);
@@ -78,17 +75,17 @@ public:
     NoHelpButtonInputDialog() = delete;
 
     /// The entered text, null when cancelled.
-    static QString getText(QWidget *parent, const QString &title, const QString &label,
-                           QLineEdit::EchoMode echo, const QString &text, bool *ok = nullptr);
+    static QString getText(QWidget *parent, const QString &title, const QString &label, QLineEdit::EchoMode echo,
+                           const QString &text, bool *ok = nullptr);
     /// The entered number, 0 when cancelled. `ok` is set to false when cancelled and otherwise left alone.
     /// The limits and the value do not reach the integer input, which keeps the range 0 to 99 and starts at
     /// 0: the callers in the field count on it.
-    static int getInt(QWidget *parent, const QString &title, const QString &label, bool *ok, int value,
-                      int minimum, int maximum);
+    static int getInt(QWidget *parent, const QString &title, const QString &label, bool *ok, int value, int minimum,
+                      int maximum);
     /// The dialog's text value as a number, which is `value` with 6 significant digits whatever the number
     /// input shows; 0.0 when cancelled. `ok` tells whether the text was a number.
-    static double getDouble(QWidget *parent, const QString &title, const QString &label, bool *ok,
-                            double value, double minimum, double maximum);
+    static double getDouble(QWidget *parent, const QString &title, const QString &label, bool *ok, double value,
+                            double minimum, double maximum);
 };
 
 /// The toolkit's file dialogs without the context-help button. Each returns the chosen path, null when

@@ -20,10 +20,7 @@ QString Exception::whatQString() const
     return message;
 }
 
-DeviceNotFoundException::DeviceNotFoundException()
-    : Exception(QString::fromWCharArray(L"Несуществующее устройство"))
-{
-}
+DeviceNotFoundException::DeviceNotFoundException() : Exception(QString::fromWCharArray(L"Несуществующее устройство")) {}
 
 DeviceNotFoundException::~DeviceNotFoundException() = default;
 

@@ -103,8 +103,8 @@ public:
 template <class T>
 QNoxInterface<T>::QNoxInterface(T *object)
     : driver(object),
-      future(static_cast<QFutureInterfaceBase::State>(
-          QFutureInterfaceBase::Started | QFutureInterfaceBase::Finished | QFutureInterfaceBase::Canceled))
+      future(static_cast<QFutureInterfaceBase::State>(QFutureInterfaceBase::Started | QFutureInterfaceBase::Finished |
+                                                      QFutureInterfaceBase::Canceled))
 {
 }
 

@@ -178,8 +178,7 @@ QString QNoxSettings::toXml(int documentVersion) const
 {
     QDomDocument document;
     QDomElement root = document.createElement(SettingsTag);
-    root.setAttribute(VersionAttribute,
-                      static_cast<qlonglong>(documentVersion == 0 ? version : documentVersion));
+    root.setAttribute(VersionAttribute, static_cast<qlonglong>(documentVersion == 0 ? version : documentVersion));
     document.appendChild(root);
     for (QMap<QString, QVariant>::const_iterator entry = entries.begin(); entry != entries.end(); ++entry) {
         QDomElement value = document.createElement(ValueTag);

@@ -82,15 +82,13 @@ template <class Get>
 QString readSetting(std::vector<wchar_t> &buffer, Get get)
 {
     const int length = DriverText::read(buffer, 0, get).last;
-    return QString::fromWCharArray(buffer.data(),
-                                   std::max(0, std::min(length, static_cast<int>(buffer.size()))));
+    return QString::fromWCharArray(buffer.data(), std::max(0, std::min(length, static_cast<int>(buffer.size()))));
 }
 
 QString readValue(NOX::IVELBase *driver, const wchar_t *name, std::vector<wchar_t> &buffer)
 {
-    return readSetting(buffer, [=](wchar_t *characters, int size) {
-        return driver->getSettingValue(name, characters, size);
-    });
+    return readSetting(buffer,
+                       [=](wchar_t *characters, int size) { return driver->getSettingValue(name, characters, size); });
 }
 
 } // namespace
@@ -160,8 +158,7 @@ void strToComboBox(QComboBox *combo, const QString &mapping, bool showKey)
     const QStringList pieces = entriesOf(mapping);
     for (const QString &piece : pieces) {
         const MappingEntry entry(piece);
-        combo->addItem(showKey ? QString::fromLatin1("%1 - %2").arg(entry.key, entry.value) : entry.value,
-                       entry.key);
+        combo->addItem(showKey ? QString::fromLatin1("%1 - %2").arg(entry.key, entry.value) : entry.value, entry.key);
     }
 }
 
@@ -281,9 +278,8 @@ QString readCurrentSetting(NOX::IVELBase *driver, const wchar_t *name)
 QString readDescriptionOfCurrentSetting(NOX::IVELBase *driver, const wchar_t *name)
 {
     std::vector<wchar_t> buffer(SettingBufferSize);
-    const QString choices = readSetting(buffer, [=](wchar_t *characters, int size) {
-        return driver->getSettingChoices(name, characters, size);
-    });
+    const QString choices = readSetting(
+        buffer, [=](wchar_t *characters, int size) { return driver->getSettingChoices(name, characters, size); });
     QString description;
     GetValueFromMappingKey(choices, readValue(driver, name, buffer), description);
     return description;
@@ -295,16 +291,14 @@ QString defaultDeviceName(NOX::IVELBase *driver)
     const QString port = readDescriptionOfCurrentSetting(driver, L"Port");
     if (port == QString::fromWCharArray(L"Файл устройства")) {
         return QObject::tr("%1 (%2 %3)")
-            .arg(model, readCurrentSetting(driver, L"TTYSuffix"),
-                 readDescriptionOfCurrentSetting(driver, L"BaudRate"));
+            .arg(model, readCurrentSetting(driver, L"TTYSuffix"), readDescriptionOfCurrentSetting(driver, L"BaudRate"));
     }
     if (port == QLatin1String("TCP/IP") || port == QLatin1String("UDP/IP")) {
         return QObject::tr("%1 (%2:%3)")
             .arg(model, readCurrentSetting(driver, L"IPAddress"), readCurrentSetting(driver, L"IPPort"));
     }
     if (port.startsWith(QLatin1String("COM"))) {
-        return QObject::tr("%1 (%2 %3)")
-            .arg(model, port, readDescriptionOfCurrentSetting(driver, L"BaudRate"));
+        return QObject::tr("%1 (%2 %3)").arg(model, port, readDescriptionOfCurrentSetting(driver, L"BaudRate"));
     }
     if (port == QLatin1String("Bluetooth")) {
         return QObject::tr("%1 (%2)").arg(model, readCurrentSetting(driver, L"MACAddress"));
@@ -336,8 +330,8 @@ QString appDir()
 
 QString configDir()
 {
-    static const QString directory = QDir::homePath() + QDir::separator() + QObject::tr(".orma") +
-                                     QDir::separator() + QObject::tr("drivers9") + QDir::separator();
+    static const QString directory = QDir::homePath() + QDir::separator() + QObject::tr(".orma") + QDir::separator() +
+                                     QObject::tr("drivers9") + QDir::separator();
     return directory;
 }
 

@@ -13,8 +13,7 @@ class ScopedDialog
 {
 public:
     template <class... Arguments>
-    explicit ScopedDialog(Arguments &&...arguments)
-        : dialog(new Dialog(std::forward<Arguments>(arguments)...))
+    explicit ScopedDialog(Arguments &&...arguments) : dialog(new Dialog(std::forward<Arguments>(arguments)...))
     {
     }
     ScopedDialog(const ScopedDialog &) = delete;

@@ -13,8 +13,10 @@ void showError(QLabel *line, const QString &text)
 {
     line->setText(text);
     QWidget *window = line->window();
+    if (!window->isVisible()) {
+        return; // its layout sees to the height that wrapped texts need when it is first shown, but not later
+    }
     QLayout *layout = window->layout();
-    // A window's layout sees to the height that wrapped texts need only when it is first shown.
     layout->activate();
     const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(window->width()) : window->height();
     window->resize(window->width(), std::max(height, window->height()));

@@ -16,7 +16,7 @@ inline const QString CountKey = QString::fromWCharArray(L"Operators");
 /// Key of an operator's name within its record.
 inline const QString NameKey = QString::fromWCharArray(L"Name");
 
-/// More operators than any shop has; a larger number in a document is taken for damage, not counted to.
+/// More operators than any shop has. A damaged document that names a larger number is not followed any further.
 const int MaxCount = 100000;
 
 inline QString key(int index)

@@ -67,19 +67,21 @@ int AskParams(NOX::PayCard::IPayCard * /*driver*/, QWidget * /*parent*/)
 int CommissionAddition(NOX::PayCard::IPayCard *driver, QWidget *parent)
 {
     // The host reads the dialog's own code, which tells the two ways apart.
-    return enter(driver, parent, QT_TR_NOOP("Ошибка выбора способа начисления комиссии"),
+    return enter(driver, parent, QT_TRANSLATE_NOOP("QObject", "Ошибка выбора способа начисления комиссии"),
                  run<CommissionAdditionDialog>);
 }
 
 int SelectOperator(NOX::PayCard::IPayCard *driver, QWidget *parent)
 {
     // The same words as for the properties, on purpose.
-    return enter(driver, parent, QT_TR_NOOP("Ошибка настройки свойств"), runToAcceptance<SelectOperatorDialog>);
+    return enter(driver, parent, QT_TRANSLATE_NOOP("QObject", "Ошибка настройки свойств"),
+                 runToAcceptance<SelectOperatorDialog>);
 }
 
 int ShowProperties(NOX::PayCard::IPayCard *driver, QWidget *parent)
 {
-    return enter(driver, parent, QT_TR_NOOP("Ошибка настройки свойств"), runToAcceptance<PaySystemDialog>);
+    return enter(driver, parent, QT_TRANSLATE_NOOP("QObject", "Ошибка настройки свойств"),
+                 runToAcceptance<PaySystemDialog>);
 }
 
 int ConfirmPayment(NOX::PayCard::IPayCard *driver, QWidget *parent)
@@ -89,7 +91,8 @@ int ConfirmPayment(NOX::PayCard::IPayCard *driver, QWidget *parent)
         text = paymentConfirmationText(QNoxPaycard(object));
         return 0;
     };
-    if (enter(driver, parent, QT_TR_NOOP("Ошибка получения параметров платежа"), compose) == NotPerformed) {
+    if (enter(driver, parent, QT_TRANSLATE_NOOP("QObject", "Ошибка получения параметров платежа"), compose) ==
+        NotPerformed) {
         return NotPerformed;
     }
     const auto ask = [&text](NOX::PayCard::IPayCard *, QWidget *owner) {
@@ -99,5 +102,5 @@ int ConfirmPayment(NOX::PayCard::IPayCard *driver, QWidget *parent)
                    ? 1
                    : 0;
     };
-    return enter(driver, parent, QT_TR_NOOP("Ошибка подтверждения платежа"), ask);
+    return enter(driver, parent, QT_TRANSLATE_NOOP("QObject", "Ошибка подтверждения платежа"), ask);
 }

@@ -28,7 +28,7 @@ PAYCARD_EXPORT int CommissionAddition(NOX::PayCard::IPayCard *driver, QWidget *p
 PAYCARD_EXPORT int SelectOperator(NOX::PayCard::IPayCard *driver, QWidget *parent);
 
 /// Shows the properties of the payment system. Returns 1 when the driver has taken the edited settings, 0
-/// when the user cancelled.
+/// when the user cancelled, -1 also when the driver refuses to be told afterwards that they are closed.
 PAYCARD_EXPORT int ShowProperties(NOX::PayCard::IPayCard *driver, QWidget *parent);
 
 /// Shows the data of the current payment. Returns 1 when the cashier confirmed them, otherwise 0.

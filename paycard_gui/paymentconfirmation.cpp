@@ -21,17 +21,17 @@ enum LastReferencedOperation { NoReference = 0, Refund = 1, RefundCancellation =
 QString operationStr(int code)
 {
     const char *const names[] = {
-        QT_TR_NOOP("Оплата"),
-        QT_TR_NOOP("Возврат"),
-        QT_TR_NOOP("Отмена оплаты"),
-        QT_TR_NOOP("Отмена возврата"),
-        QT_TR_NOOP("Активация БЕЗ суммы"),
-        QT_TR_NOOP("Активация С суммой"),
-        QT_TR_NOOP("Бонусы и скидка"),
-        QT_TR_NOOP("Внесение предоплаты"),
-        QT_TR_NOOP("Просмотр баланса"),
-        QT_TR_NOOP("Оплата услуг"),
-        QT_TR_NOOP("Оплата услуг картой"),
+        QT_TRANSLATE_NOOP("QObject", "Оплата"),
+        QT_TRANSLATE_NOOP("QObject", "Возврат"),
+        QT_TRANSLATE_NOOP("QObject", "Отмена оплаты"),
+        QT_TRANSLATE_NOOP("QObject", "Отмена возврата"),
+        QT_TRANSLATE_NOOP("QObject", "Активация БЕЗ суммы"),
+        QT_TRANSLATE_NOOP("QObject", "Активация С суммой"),
+        QT_TRANSLATE_NOOP("QObject", "Бонусы и скидка"),
+        QT_TRANSLATE_NOOP("QObject", "Внесение предоплаты"),
+        QT_TRANSLATE_NOOP("QObject", "Просмотр баланса"),
+        QT_TRANSLATE_NOOP("QObject", "Оплата услуг"),
+        QT_TRANSLATE_NOOP("QObject", "Оплата услуг картой"),
     };
     return code >= 0 && code < static_cast<int>(std::size(names)) ? QObject::tr(names[code]) : QString();
 }

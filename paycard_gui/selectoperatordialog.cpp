@@ -14,9 +14,8 @@ SelectOperatorDialog::SelectOperatorDialog(NOX::PayCard::IPayCard *object, QWidg
     for (int i = 0; i < count; ++i) {
         ui->cmbOperators->addItem(OperatorRecords::name(OperatorRecords::record(settings, i)), i);
     }
-    // Follows the size hint where setFixedSize() would keep a size from before the style's last word.
+    // Keeps the window at its size hint, also where that changes when the window is shown.
     layout()->setSizeConstraint(QLayout::SetFixedSize);
-    adjustSize();
 }
 
 SelectOperatorDialog::~SelectOperatorDialog() = default;

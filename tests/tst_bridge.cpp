@@ -62,6 +62,9 @@ void BridgeTest::texts()
     QCOMPARE(text, shop.driver.operation.reference);
     QCOMPARE(text.isNull(), length == 0);
     QTEST(shop.calls("getReference"), "calls");
+    if (length > 1024) {
+        QCOMPARE(shop.driver.journal().back().arguments, QString("буфер %1").arg(length + 1));
+    }
 
     const auto answer = [&](Fault fault) {
         shop.driver.failOperation("getReference", {fault, 1, QString(), QString()});
@@ -230,7 +233,7 @@ void BridgeTest::thousandCalls()
         return statm.open(QIODevice::ReadOnly) ? statm.readAll().split(' ').value(1).toLong() * 4 : 0;
     };
     QTimer user;
-    connect(&user, &QTimer::timeout, [] {
+    connect(&user, &QTimer::timeout, qApp, [] {
         if (QWidget *window = QApplication::activeModalWidget()) {
             agree(window);
         }

@@ -200,7 +200,7 @@ void LookTest::windows()
         }
     });
     QVERIFY2(problems.isEmpty(), qPrintable('\n' + problems.join('\n')));
-    QVERIFY2(missing.isEmpty(), qPrintable(missing.keys().join(' ')));
+    QCOMPARE(missing, (QMap<QString, QString>()));
     QVERIFY(visited >= 27);
 }
 

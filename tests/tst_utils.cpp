@@ -56,8 +56,9 @@ void UtilsTest::comboBoxes()
     QVERIFY(QComboGetSelection(&combo).isNull());
     QVERIFY(cmbDataStr(&combo).isEmpty() && cmbDataStr(nullptr).isEmpty());
 
-    strToComboBox(&combo, "5:Тест %1;", true);
-    QCOMPARE(combo.itemText(0), QString("5 - Тест %1"));
+    strToComboBox(&combo, "66666666666:Тест %1;", true);
+    QCOMPARE(combo.itemText(0), QString("66666666666 - Тест %1"));
+    QCOMPARE(cmbData(&combo), 0); // beyond an integer
     strToComboBox(&combo, QString(), false);
     QCOMPARE(combo.count(), 0);
     strToComboBox(nullptr, "1:A;", false);

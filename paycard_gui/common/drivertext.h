@@ -34,7 +34,7 @@ Lengths read(std::vector<wchar_t> &buffer, int extra, Get get)
     if (length <= size) {
         return {length, length};
     }
-    buffer.assign(static_cast<std::size_t>(length + extra), L'\0');
+    buffer.assign(static_cast<std::size_t>(length) + static_cast<std::size_t>(extra), L'\0');
     return {length, get(buffer.data(), length + extra)};
 }
 

@@ -27,8 +27,10 @@ const struct LoadTimeSetup
 struct MappingEntry
 {
     explicit MappingEntry(const QString &text)
-        : key(text.section(QLatin1Char(':'), 0, 0)), value(text.section(QLatin1Char(':'), 1))
     {
+        const auto colon = text.indexOf(QLatin1Char(':'));
+        key = text.left(colon);
+        value = colon < 0 ? QString() : text.mid(colon + 1);
     }
     QString key;
     QString value;
@@ -106,7 +108,8 @@ QString cmbDataStr(QComboBox *combo, int role)
 
 int cmbData(QComboBox *combo, int role)
 {
-    return combo && combo->currentIndex() >= 0 ? combo->itemData(combo->currentIndex(), role).toInt() : -1;
+    // From the text: a variant cuts a number that is too large where a text gives 0.
+    return combo && combo->currentIndex() >= 0 ? cmbDataStr(combo, role).toInt() : -1;
 }
 
 int QComboCanSelect(QComboBox *combo, const QString &text)
@@ -232,13 +235,13 @@ void parseMapping(const QString &mapping, QMap<QString, QString> &map)
     }
 }
 
-QString mappingKey(QString mapping, const QString &value)
+QString mappingKey(QString mapping, const QString &value) // NOLINT(performance-unnecessary-value-param)
 {
     const auto entry = findEntry(mapping, [&](const MappingEntry &e) { return e.value == value; });
     return entry ? entry->key : QString();
 }
 
-QString mappingValue(QString mapping, const QString &key)
+QString mappingValue(QString mapping, const QString &key) // NOLINT(performance-unnecessary-value-param)
 {
     QString value;
     GetValueFromMappingKey(mapping, key, value);

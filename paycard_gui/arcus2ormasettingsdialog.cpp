@@ -7,12 +7,7 @@ Arcus2OrmaSettingsDialog::Arcus2OrmaSettingsDialog(QNoxSettings &document, QWidg
     : OrmaSettingsDialog(document, parent), ui(new Ui_Arcus2OrmaSettingsDialog)
 {
     ui->setupUi(this);
-    fillForm(ui->cmbPort, ui->stackExtSettings,
-             {
-                 usb(ui->pageUsbSettings, ui->leUsbVid, ui->leUsbPid),
-                 tty(ui->pageTtySettings, ui->leTtyFileName, ui->cmbTtyBaudrate),
-                 serial(ui->pageSerialPortSettings, ui->cmbSerialBaudrate),
-             });
+    fillForm(*ui);
     loadSettings();
     adjustSize();
 }

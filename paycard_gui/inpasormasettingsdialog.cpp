@@ -14,12 +14,7 @@ InpasOrmaSettingsDialog::InpasOrmaSettingsDialog(QNoxSettings &document, QWidget
 {
     ui->setupUi(this);
     fields.emplace_back(TerminalIDKey, ui->leTerminalID);
-    fillForm(ui->cmbPort, ui->stackExtSettings,
-             {
-                 usb(ui->pageUsbSettings, ui->leUsbVid, ui->leUsbPid),
-                 tty(ui->pageTtySettings, ui->leTtyFileName, ui->cmbTtyBaudrate),
-                 serial(ui->pageSerialPortSettings, ui->cmbSerialBaudrate),
-             });
+    fillForm(*ui);
     loadSettings();
     adjustSize();
 }

@@ -30,16 +30,25 @@ protected:
         SettingFields fields;
     };
     static PortKind network(QWidget *page, QLineEdit *address, QSpinBox *port);
-    static PortKind usb(QWidget *page, QLineEdit *vid, QLineEdit *pid);
-    static PortKind tty(QWidget *page, QLineEdit *name, QComboBox *baudrate);
-    static PortKind serial(QWidget *page, QComboBox *baudrate);
 
-    /// Offers these kinds of port, in this order; the last one is that of every port which is none of the
-    /// others.
-    void fillForm(QComboBox *ports, QStackedWidget *pages, const std::vector<PortKind> &kinds);
+    /// Takes the widgets that every form of the family has. `kinds` are those that only this form has; they come
+    /// first in the list of ports.
+    template <class Form>
+    void fillForm(const Form &form, std::vector<PortKind> kinds = {})
+    {
+        kinds.push_back(usb(form.pageUsbSettings, form.leUsbVid, form.leUsbPid));
+        kinds.push_back(tty(form.pageTtySettings, form.leTtyFileName, form.cmbTtyBaudrate));
+        kinds.push_back(serial(form.pageSerialPortSettings, form.cmbSerialBaudrate));
+        fillForm(form.cmbPort, form.stackExtSettings, kinds);
+    }
     void showPage();
 
 private:
+    static PortKind usb(QWidget *page, QLineEdit *vid, QLineEdit *pid);
+    static PortKind tty(QWidget *page, QLineEdit *name, QComboBox *baudrate);
+    static PortKind serial(QWidget *page, QComboBox *baudrate);
+    /// Offers the kinds of port in this order; the last one is that of every port which is none of the others.
+    void fillForm(QComboBox *ports, QStackedWidget *pages, const std::vector<PortKind> &kinds);
     const PortKind &currentKind() const;
 
     QComboBox *portBox = nullptr;

@@ -7,13 +7,7 @@ SberbankOrmaSettingsDialog::SberbankOrmaSettingsDialog(QNoxSettings &document, Q
     : OrmaSettingsDialog(document, parent), ui(new Ui_SberbankOrmaSettingsDialog)
 {
     ui->setupUi(this);
-    fillForm(ui->cmbPort, ui->stackExtSettings,
-             {
-                 network(ui->pageNetSettings, ui->leNetAddress, ui->spinNetPort),
-                 usb(ui->pageUsbSettings, ui->leUsbVid, ui->leUsbPid),
-                 tty(ui->pageTtySettings, ui->leTtyFileName, ui->cmbTtyBaudrate),
-                 serial(ui->pageSerialPortSettings, ui->cmbSerialBaudrate),
-             });
+    fillForm(*ui, {network(ui->pageNetSettings, ui->leNetAddress, ui->spinNetPort)});
     loadSettings();
     adjustSize();
 }

@@ -162,9 +162,13 @@ void DocumentTest::hostile_data()
     const QString value = "<value name='x'>%1</value>";
     QTest::newRow("nested elements") << deep.arg(value.arg("1")) << 1;
     QTest::newRow("nested values that unfold")
-        << QString(value).repeated(0) + QString("<r>") + QString("<value name='x'>").repeated(5000) +
-               QString("t").repeated(100000) + QString("</value>").repeated(5000) + "</r>"
+        << "<r>" + QString("<value name='x'>").repeated(5000) + QString("t").repeated(100000) +
+               QString("</value>").repeated(5000) + "</r>"
         << -1;
+    QTest::newRow("five megabytes")
+        << "<r>" + QString("<value name='y'>fifty characters and more</value>").repeated(110000) + value.arg("1") +
+               "</r>"
+        << 1;
     QTest::newRow("a million characters") << "<r>" + value.arg(QString("t").repeated(1000000)) + "</r>" << 1000000;
     QTest::newRow("one name two hundred times") << "<r>" + value.arg("1").repeated(200) + value.arg("22") + "</r>" << 2;
     QTest::newRow("entities in entities")

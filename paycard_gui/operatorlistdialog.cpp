@@ -9,8 +9,9 @@
 
 namespace {
 
-/// Characters of a name that the list shows at least.
+/// What the list shows at least: characters of a name, and lines of text (fewer operators, as they stand apart).
 const int NameWidth = 36;
+const int Lines = 18;
 
 /// An item shows the operator's name and carries its record.
 void setRecord(QListWidgetItem *item, const QNoxSettings &record)
@@ -34,8 +35,8 @@ OperatorListDialog::OperatorListDialog(QNoxSettings &document, QWidget *parent)
     ui->setupUi(this);
     loadSettings();
     enableEditing(false);
-    // The list itself asks for a width that knows nothing of the font.
-    ui->lwOperators->setMinimumWidth(fontMetrics().averageCharWidth() * NameWidth);
+    // The list itself asks for a size that knows nothing of the font.
+    ui->lwOperators->setMinimumSize(fontMetrics().averageCharWidth() * NameWidth, fontMetrics().height() * Lines);
     adjustSize();
 }
 

@@ -540,11 +540,11 @@ void PropertiesTest::lumiPay()
                 values.emplace_back("ModemMode", row.first);
             }
             Register shop(values);
-            std::vector<Field> fields = {{"cmbModemMode", "ModemMode", row.second, row.second == "0" ? "1" : "0"}};
             const bool hasTerminal = protocol == 8;
-            if (hasTerminal) {
-                fields.push_back({"leTerminalID", "TerminalID", "", "T 1"});
-            }
+            const Field mode = {"cmbModemMode", "ModemMode", row.second, row.second == "0" ? "1" : "0"};
+            const std::vector<Field> fields = hasTerminal
+                                                  ? std::vector<Field>{mode, {"leTerminalID", "TerminalID", "", "T 1"}}
+                                                  : std::vector<Field>{mode};
             shop.run(ShowProperties, {press("pbtnSettingsButton"), fill(fields), press("pbtnOk"), press("pbtnOk")});
             compareStored(QNoxSettings(shop.driver.settings()), fields);
             QCOMPARE(shop.stored("TerminalID").isValid(), hasTerminal);

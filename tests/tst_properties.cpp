@@ -33,7 +33,6 @@ private slots:
     void cyberPlatRules();
     void arcus2();
     void lumiPay();
-    void terminal_data();
     void terminal();
     void terminalPages();
 };
@@ -552,62 +551,60 @@ void PropertiesTest::lumiPay()
     }
 }
 
-void PropertiesTest::terminal_data()
-{
-    QTest::addColumn<int>("protocol");
-    QTest::addColumn<QString>("port");
-    QTest::addColumn<QString>("changed"); // key=value of what OK writes
-    for (const int protocol : {11, 12, 13}) {
-        const QString id = protocol == 12 ? " TerminalID=T9" : "";
-        QTest::addRow("%d, serial", protocol) << protocol << "99"
-                                              << "BaudRate=1200 Port=99" + id;
-        QTest::addRow("%d, device file", protocol) << protocol << "TTY"
-                                                   << "BaudRate=115200 Port=TTY TTYSuffix=ACM0" + id;
-        QTest::addRow("%d, USB", protocol) << protocol << "USB"
-                                           << "Pid=0 Port=USB Vid=6699" + id;
-    }
-    QTest::addRow("network") << 11 << "TCPIP"
-                             << "IPAddress=host IPPort=65535 Port=TCPIP";
-}
-
 void PropertiesTest::terminal()
 {
-    QFETCH(int, protocol);
-    QFETCH(QString, port);
-    QFETCH(QString, changed);
-    const QStringList untouched = {"BaudRate=4800", "IPAddress=old", "IPPort=1", "Pid=255",
-                                   "Port=1",        "TTYSuffix=old", "Vid=70000"};
-    Values values = {{"Protocol", protocol}};
-    for (const QString &pair : untouched) {
-        values.emplace_back(pair.section('=', 0, 0), pair.section('=', 1));
-    }
-    Register shop(values);
-    const auto edit = [&](QWidget *window) {
-        QCOMPARE(child<QComboBox>(window, "cmbSerialBaudrate")->currentText(), QString("2400 бод"));
-        QCOMPARE(child<QComboBox>(window, "cmbSerialBaudrate")->currentIndex(), 2);
-        QCOMPARE(shown(window, "leUsbPid"), QString("00ff"));
-        enter(window, "cmbPort", port);
-        enter(window, "cmbSerialBaudrate", "1200");
-        enter(window, "cmbTtyBaudrate", "115200");
-        enter(window, "leTtyFileName", "ACM0");
-        enter(window, "leUsbVid", "1A2b");
-        enter(window, "leUsbPid", QString());
-        if (protocol == 11) {
-            enter(window, "leNetAddress", "host");
-            enter(window, "spinNetPort", "70000");
+    const std::vector<std::pair<QString, QVariant>> stored = {
+        {"BaudRate", "4800"}, {"IPAddress", "old"}, {"IPPort", "1"}, {"Pid", "255"},
+        {"Port", "1"},        {"TTYSuffix", "old"}, {"Vid", "70000"}};
+    const struct
+    {
+        QString port;
+        Values changed;
+    } rows[] = {{"99", {{"BaudRate", "1200"}}},
+                {"TTY", {{"BaudRate", "115200"}, {"TTYSuffix", "ACM0"}}},
+                {"USB", {{"Vid", "6699"}, {"Pid", "0"}}},
+                {"TCPIP", {{"IPAddress", "host"}, {"IPPort", "65535"}}}};
+    for (const int protocol : {11, 12, 13}) {
+        for (const auto &row : rows) {
+            if (row.port == "TCPIP" && protocol != 11) {
+                continue;
+            }
+            Values values = stored;
+            values.emplace_back("Protocol", protocol);
+            Register shop(values);
+            const auto edit = [&](QWidget *window) {
+                QCOMPARE(child<QComboBox>(window, "cmbSerialBaudrate")->currentText(), QString("2400 бод"));
+                QCOMPARE(child<QComboBox>(window, "cmbSerialBaudrate")->currentIndex(), 2);
+                QCOMPARE(shown(window, "leUsbPid"), QString("00ff"));
+                std::vector<std::pair<const char *, const char *>> inputs = {{"cmbSerialBaudrate", "1200"},
+                                                                             {"cmbTtyBaudrate", "115200"},
+                                                                             {"leTtyFileName", "ACM0"},
+                                                                             {"leUsbVid", "1A2b"},
+                                                                             {"leUsbPid", ""}};
+                if (protocol == 11) {
+                    inputs.insert(inputs.end(), {{"leNetAddress", "host"}, {"spinNetPort", "70000"}});
+                } else if (protocol == 12) {
+                    inputs.emplace_back("leTerminalID", "T9");
+                }
+                enter(window, "cmbPort", row.port);
+                for (const auto &input : inputs) {
+                    enter(window, input.first, input.second);
+                }
+            };
+            QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), edit, press("pbtnOk"), press("pbtnOk")}),
+                     1);
+            // Only what belongs to the chosen kind of port has changed.
+            QNoxSettings expected(document(stored));
+            expected.set("Port", row.port);
+            expected.set("TerminalID", protocol == 12 ? "T9" : "");
+            for (const auto &value : row.changed) {
+                expected.set(value.first, value.second);
+            }
+            for (const char *key :
+                 {"Port", "BaudRate", "TTYSuffix", "IPAddress", "IPPort", "Vid", "Pid", "TerminalID"}) {
+                QCOMPARE(shop.stored(key).toString(), expected.get(key).toString());
+            }
         }
-        if (protocol == 12) {
-            enter(window, "leTerminalID", "T9");
-        }
-    };
-    QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), edit, press("pbtnOk"), press("pbtnOk")}), 1);
-    QNoxSettings expected(document(values));
-    const QStringList pairs = changed.split(' ');
-    for (const QString &pair : pairs) {
-        expected.set(pair.section('=', 0, 0), pair.section('=', 1));
-    }
-    for (const char *key : {"Port", "BaudRate", "TTYSuffix", "IPAddress", "IPPort", "Vid", "Pid", "TerminalID"}) {
-        QCOMPARE(shop.stored(key).toString(), expected.get(key).toString());
     }
 }
 

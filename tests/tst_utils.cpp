@@ -12,14 +12,11 @@ class UtilsTest : public QObject
 
 private slots:
     void comboBoxes();
-    void wideLists_data();
     void wideLists();
     void deviceList();
-    void lookups_data();
     void lookups();
     void wideTexts();
     void settingQueries();
-    void deviceNames_data();
     void deviceNames();
 };
 
@@ -64,43 +61,37 @@ void UtilsTest::comboBoxes()
     strToComboBox(nullptr, "1:A;", false);
 }
 
-void UtilsTest::wideLists_data()
-{
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("key"); // null: none given
-    QTest::addColumn<QString>("texts");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<bool>("enabled");
-    const QString none;
-    QTest::newRow("leading key") << "2@1:A;2:B;" << none << "A,B" << 1 << true;
-    QTest::newRow("key given") << "2@1:A;2:B;"
-                               << "1"
-                               << "A,B" << 0 << true;
-    QTest::newRow("unknown key") << "3@1:A;2:B;" << none << "A,B" << 0 << true;
-    QTest::newRow("fixed entry") << "1:A;FIXED:B;2:C;"
-                                 << "2"
-                                 << "A,B,C" << 1 << false;
-    QTest::newRow("fixed key") << "FIXED@1:A;2:B;" << none << "A,B" << 0 << false;
-    QTest::newRow("last semicolon missing") << "1:A;2:B" << none << "A" << 0 << true;
-    QTest::newRow("no colon") << "1:A;2;" << none << "A" << 0 << true;
-    QTest::newRow("empty") << "" << none << "" << -1 << true;
-}
-
 void UtilsTest::wideLists()
 {
-    QFETCH(QString, list);
-    QFETCH(QString, key);
-    QComboBox combo;
-    combo.addItem("old");
-    combo.setEnabled(false);
-    QCOMPARE(WStrToQCombo(&combo, list.toStdWString().c_str(), key.isNull() ? nullptr : key.toStdWString().c_str()), 0);
-    QStringList texts;
-    for (int i = 0; i < combo.count(); ++i) {
-        texts += combo.itemText(i);
+    const struct
+    {
+        const wchar_t *list, *key;
+        const char *texts;
+        int current;
+        bool enabled;
+    } rows[] = {
+        {L"2@1:A;2:B;", nullptr, "A,B", 1, true},
+        {L"2@1:A;2:B;", L"1", "A,B", 0, true},
+        {L"3@1:A;2:B;", nullptr, "A,B", 0, true},
+        {L"1:A;FIXED:B;2:C;", L"2", "A,B,C", 1, false},
+        {L"FIXED@1:A;2:B;", nullptr, "A,B", 0, false},
+        {L"1:A;2:B", nullptr, "A", 0, true}, // the last semicolon is missing
+        {L"1:A;2;", nullptr, "A", 0, true},
+        {L"", nullptr, "", -1, true},
+    };
+    for (const auto &row : rows) {
+        QComboBox combo;
+        combo.addItem("old");
+        combo.setEnabled(false);
+        QCOMPARE(WStrToQCombo(&combo, row.list, row.key), 0);
+        QStringList texts;
+        for (int i = 0; i < combo.count(); ++i) {
+            texts += combo.itemText(i);
+        }
+        QCOMPARE(texts.join(','), QString(row.texts));
+        QCOMPARE(combo.currentIndex(), row.current);
+        QCOMPARE(combo.isEnabled(), row.enabled);
     }
-    QTEST(texts.join(','), "texts");
-    QTEST(combo.currentIndex(), "current");
-    QTEST(combo.isEnabled(), "enabled");
 }
 
 void UtilsTest::deviceList()
@@ -118,61 +109,34 @@ void UtilsTest::deviceList()
     QCOMPARE(seen.join(' '), QString("COM1=TTY/0 USB=USB/ Two=BT/ Three=TTY/"));
 }
 
-void UtilsTest::lookups_data()
-{
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("valueOfKey"); // null: no such key
-    QTest::addColumn<QString>("keyOfValue");
-    QTest::addColumn<int>("number"); // of the value
-    const QString none;
-    QTest::newRow("usual") << "1:Сумма;2:Процент;"
-                           << "2"
-                           << "Процент"
-                           << "Процент"
-                           << "2" << 2;
-    QTest::newRow("colon in the value") << "1:a:b;2:c;"
-                                        << "1"
-                                        << "a:b"
-                                        << "a:b"
-                                        << "1" << 1;
-    QTest::newRow("part of a value") << "1:Сумма2;2:Процент;"
-                                     << "Сумма2"
-                                     << "Сумма" << none << "" << -1;
-    QTest::newRow("first of several") << "1:a;2:a;1:b;"
-                                      << "1"
-                                      << "a"
-                                      << "a"
-                                      << "1" << 1;
-    QTest::newRow("open end") << "1:a;2:b"
-                              << "2"
-                              << "b"
-                              << "b"
-                              << "2" << -1;
-    QTest::newRow("no key") << ":a;"
-                            << "x"
-                            << "a" << none << "" << -1;
-    QTest::newRow("key is no number") << "USB:a;"
-                                      << "usb"
-                                      << "a" << none << "USB" << 0;
-    QTest::newRow("empty") << ""
-                           << "1"
-                           << "a" << none << "" << -1;
-}
-
 void UtilsTest::lookups()
 {
-    QFETCH(QString, list);
-    QFETCH(QString, key);
-    QFETCH(QString, value);
-    QFETCH(QString, valueOfKey);
-    QString found = "untouched";
-    QCOMPARE(GetValueFromMappingKey(list, key, found), !valueOfKey.isNull());
-    QCOMPARE(found, valueOfKey.isNull() ? QString("untouched") : valueOfKey);
-    QCOMPARE(mappingValue(list, key), valueOfKey);
-    QTEST(mappingKey(list, value), "keyOfValue");
-    QTEST(GetKeyFromMappingValue(list, value), "number");
+    const struct
+    {
+        const char *list, *key, *value;
+        const char *valueOfKey; ///< null: no such key
+        const char *keyOfValue;
+        int number; ///< of the value
+    } rows[] = {
+        {"1:Сумма;2:Процент;", "2", "Процент", "Процент", "2", 2},
+        {"1:a:b;2:c;", "1", "a:b", "a:b", "1", 1},
+        {"1:Сумма2;2:Процент;", "Сумма2", "Сумма", nullptr, "", -1}, // a part of a value
+        {"1:a;2:a;1:b;", "1", "a", "a", "1", 1},
+        {"1:a;2:b", "2", "b", "b", "2", -1}, // the last semicolon is missing
+        {":a;", "x", "a", nullptr, "", -1},
+        {"USB:a;", "usb", "a", nullptr, "USB", 0},
+        {"", "1", "a", nullptr, "", -1},
+    };
+    for (const auto &row : rows) {
+        QString found = "untouched";
+        QCOMPARE(GetValueFromMappingKey(row.list, row.key, found), row.valueOfKey != nullptr);
+        QCOMPARE(found, QString(row.valueOfKey ? row.valueOfKey : "untouched"));
+        QCOMPARE(mappingValue(row.list, row.key), QString(row.valueOfKey));
+        QCOMPARE(mappingKey(row.list, row.value), QString(row.keyOfValue));
+        QCOMPARE(GetKeyFromMappingValue(row.list, row.value), row.number);
+    }
+    QString found;
+    QVERIFY(GetValueFromMappingKey("1:a;", 1, found) && found == "a");
 
     QMap<QString, QString> map = {{"old", "kept"}, {"1", "replaced"}};
     parseMapping("1:a;lone;1:b:c;;", map);
@@ -212,44 +176,27 @@ void UtilsTest::settingQueries()
     QCOMPARE(answer(Fault::Refuse), 0);
 }
 
-void UtilsTest::deviceNames_data()
-{
-    QTest::addColumn<QString>("port");
-    QTest::addColumn<QString>("name"); // null: the time
-    const QString time;
-    QTest::newRow("serial") << "1"
-                            << "Учебный терминал (COM1 115200)";
-    QTest::newRow("device file") << "TTY"
-                                 << "Учебный терминал (USB%1 115200)";
-    QTest::newRow("TCP") << "TCPIP"
-                         << "Учебный терминал (10.0.0.7:5000)";
-    QTest::newRow("UDP") << "UDPIP"
-                         << "Учебный терминал (10.0.0.7:5000)";
-    QTest::newRow("Bluetooth") << "BT"
-                               << "Учебный терминал (00:11:22)";
-    QTest::newRow("USB") << "USB"
-                         << "Учебный терминал (USB:терминал)";
-    QTest::newRow("unknown") << "com1" << time;
-}
-
 void UtilsTest::deviceNames()
 {
-    QFETCH(QString, port);
-    QFETCH(QString, name);
-    Register shop({{"Model", 1},
-                   {"Port", port},
-                   {"BaudRate", 115200},
-                   {"TTYSuffix", "USB%1"},
-                   {"IPAddress", "10.0.0.7"},
-                   {"IPPort", 5000},
-                   {"MACAddress", "00:11:22"}});
-    const QString given = defaultDeviceName(&shop.driver);
-    if (name.isNull()) {
-        const QDateTime time = QDateTime::fromString(given, "yyyy.MM.dd HH:mm:ss.zzz");
-        QVERIFY2(qAbs(time.msecsTo(QDateTime::currentDateTime())) < 60000, qPrintable(given));
-    } else {
-        QCOMPARE(given, name);
-    }
+    const auto name = [](const char *port) {
+        Register shop({{"Model", 1},
+                       {"Port", port},
+                       {"BaudRate", 115200},
+                       {"TTYSuffix", "USB%1"},
+                       {"IPAddress", "10.0.0.7"},
+                       {"IPPort", 5000},
+                       {"MACAddress", "00:11:22"}});
+        return defaultDeviceName(&shop.driver);
+    };
+    QCOMPARE(name("1"), QString("Учебный терминал (COM1 115200)"));
+    QCOMPARE(name("TTY"), QString("Учебный терминал (USB%1 115200)"));
+    QCOMPARE(name("TCPIP"), QString("Учебный терминал (10.0.0.7:5000)"));
+    QCOMPARE(name("UDPIP"), QString("Учебный терминал (10.0.0.7:5000)"));
+    QCOMPARE(name("BT"), QString("Учебный терминал (00:11:22)"));
+    QCOMPARE(name("USB"), QString("Учебный терминал (USB:терминал)"));
+    // For an unknown kind of port the time.
+    const QDateTime time = QDateTime::fromString(name("com1"), "yyyy.MM.dd HH:mm:ss.zzz");
+    QVERIFY(qAbs(time.msecsTo(QDateTime::currentDateTime())) < 60000);
 }
 
 QTEST_MAIN(UtilsTest)

@@ -36,7 +36,9 @@ void prepareToShow(QWidget &window)
         const bool isInput = qobject_cast<QComboBox *>(widget) || qobject_cast<QLineEdit *>(widget) ||
                              qobject_cast<QAbstractSpinBox *>(widget);
         if (!isPart && (isButton || isInput)) {
-            widget->setMinimumHeight(std::max(widget->minimumHeight(), NoHelpButtonDialog::TouchHeight));
+            // A minimum that is set replaces the one that a large font asks for.
+            widget->setMinimumHeight(std::max(
+                {widget->minimumHeight(), widget->minimumSizeHint().height(), NoHelpButtonDialog::TouchHeight}));
         }
     }
     QtCompat::keepAboveActiveWindow(window);

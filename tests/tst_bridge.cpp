@@ -38,6 +38,7 @@ void BridgeTest::exceptions()
     }
     QVERIFY_EXCEPTION_THROWN(QNoxPaycard().raiseError(-1), DeviceNotFoundException);
     QCOMPARE(QNoxPaycard().raiseError(0), 0);
+    QCOMPARE(QNoxInterface<IPayCard>(nullptr).defaultBufferSize(), 1024);
     QCOMPARE(QNoxPaycard().raiseError(7), 7);
 }
 

@@ -319,6 +319,8 @@ void PropertiesTest::slip()
         QVERIFY(!enabled(window, "checkHideCard"));
         QVERIFY(child<QTextEdit>(window, "teHeader")->alignment().testFlag(Qt::AlignHCenter));
     };
+    QCOMPARE(shop.run(ShowProperties, {press("pbtnSlip"), fill(fields), press("pbtnCancel"), press("pbtnOk")}), 1);
+    QVERIFY(!nested(shop, "Slip").get("Header").isValid());
     QCOMPARE(shop.run(ShowProperties, {press("pbtnSlip"), look, fill(fields), press("pbtnOk"), press("pbtnOk")}), 1);
     compareStored(nested(shop, "Slip"), fields);
     QCOMPARE(nested(shop, "Slip").get("Width").toInt(), 32);

@@ -32,7 +32,9 @@ void UtilsTest::comboBoxes()
     QCOMPARE(QComboCanSelect(&combo, 2), 1);
     QCOMPARE(QComboCanSelect(&combo, QString("A")), 3);
     QCOMPARE(QComboCanSelect(&combo, QString("b")), -1);
-    QComboSelect(&combo, QVariant(2));
+    QComboSelect(&combo, QVariant("A"));
+    QCOMPARE(combo.currentIndex(), 3);
+    QComboSelect(&combo, 2);
     QCOMPARE(cmbData(&combo), 2);
     QCOMPARE(combo.currentIndex(), 1);
     QComboSelect(&combo, L"a");

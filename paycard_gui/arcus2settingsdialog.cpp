@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "arcus2settingsdialog.h"
 
-#include "formutils.h"
 #include "ui_arcus2settingsdialog.h"
 
 namespace {
@@ -15,6 +14,7 @@ Arcus2SettingsDialog::Arcus2SettingsDialog(QNoxSettings &document, QWidget *pare
     : SettingsDialog(document, parent), ui(new Ui_Arcus2SettingsDialog)
 {
     ui->setupUi(this);
+    useErrorLine(ui->lbError);
     connect(ui->spinOpcodeCloseDay, SIGNAL(valueChanged(int)), SLOT(checkState()));
     connect(ui->spinOpcodePrintJournal, SIGNAL(valueChanged(int)), SLOT(checkState()));
     fields = {
@@ -28,16 +28,6 @@ Arcus2SettingsDialog::Arcus2SettingsDialog(QNoxSettings &document, QWidget *pare
 }
 
 Arcus2SettingsDialog::~Arcus2SettingsDialog() = default;
-
-void Arcus2SettingsDialog::setError(const QString &text)
-{
-    showError(ui->lbError, text);
-}
-
-void Arcus2SettingsDialog::resetError()
-{
-    setError(QString());
-}
 
 /// Only reports: equal codes can be saved.
 void Arcus2SettingsDialog::checkState()

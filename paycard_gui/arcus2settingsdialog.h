@@ -17,9 +17,6 @@ public:
     Arcus2SettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~Arcus2SettingsDialog() override;
 
-    void setError(const QString &text);
-    void resetError();
-
 private slots:
     void on_pbtnOk_clicked();
     void on_pbtnCancel_clicked();

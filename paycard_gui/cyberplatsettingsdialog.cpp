@@ -44,6 +44,7 @@ CyberPlatSettingsDialog::CyberPlatSettingsDialog(QNoxSettings &document, QWidget
     : SettingsDialog(document, parent), ui(new Ui_CyberPlatSettingsDialog)
 {
     ui->setupUi(this);
+    useErrorLine(ui->lbError, tr("Ошибка: "));
     alignLabels(this);
     connect(ui->leURL, SIGNAL(textChanged(QString)), SLOT(checkState()));
     connect(ui->leProxyServer, SIGNAL(textChanged(QString)), SLOT(checkState()));
@@ -68,25 +69,16 @@ CyberPlatSettingsDialog::CyberPlatSettingsDialog(QNoxSettings &document, QWidget
 
 CyberPlatSettingsDialog::~CyberPlatSettingsDialog() = default;
 
-void CyberPlatSettingsDialog::setError(const QString &text)
-{
-    showError(ui->lbError, tr("Ошибка: ") + text);
-}
-
-void CyberPlatSettingsDialog::resetError()
-{
-    ui->lbError->clear();
-}
-
 void CyberPlatSettingsDialog::checkState()
 {
-    const QString failure = firstBroken({
-        {ui->leURL->text().isEmpty(), tr("Не указан адрес сервера")},
-        {ui->checkUseProxy->isChecked() && ui->leProxyServer->text().isEmpty(), tr("Не указан адрес прокси-сервера")},
-        {ui->leKeyLoadPwd->text().isEmpty(), tr("Не указан пароль ключа")},
-    });
-    ui->pbtnOk->setEnabled(failure.isEmpty());
-    failure.isEmpty() ? resetError() : setError(failure);
+    check(
+        {
+            {ui->leURL->text().isEmpty(), tr("Не указан адрес сервера")},
+            {ui->checkUseProxy->isChecked() && ui->leProxyServer->text().isEmpty(),
+             tr("Не указан адрес прокси-сервера")},
+            {ui->leKeyLoadPwd->text().isEmpty(), tr("Не указан пароль ключа")},
+        },
+        ui->pbtnOk);
 }
 
 void CyberPlatSettingsDialog::on_pbtnOk_clicked()

@@ -17,9 +17,6 @@ public:
     CyberPlatSettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~CyberPlatSettingsDialog() override;
 
-    void setError(const QString &text);
-    void resetError();
-
 private slots:
     void checkState();
     void on_pbtnOk_clicked();

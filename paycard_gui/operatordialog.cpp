@@ -30,6 +30,7 @@ OperatorDialog::OperatorDialog(QNoxSettings &record, QWidget *parent)
     : SettingsDialog(record, parent), ui(new Ui_OperatorDialog)
 {
     ui->setupUi(this);
+    useErrorLine(ui->lbError, tr("Ошибка: "));
     alignLabels(this);
     fillChoices();
     connect(ui->leName, SIGNAL(textChanged(QString)), SLOT(checkState()));
@@ -75,26 +76,16 @@ void OperatorDialog::fillChoices()
     ui->cmbParam1->setMinimumWidth(ui->cmbCommissionAddition->sizeHint().width());
 }
 
-void OperatorDialog::setError(const QString &text)
-{
-    showError(ui->lbError, tr("Ошибка: ") + text);
-}
-
-void OperatorDialog::resetError()
-{
-    ui->lbError->clear();
-}
-
 void OperatorDialog::checkState()
 {
-    const QString failure = firstBroken({
-        {ui->leName->text().isEmpty(), tr("Не указано название")},
-        {ui->leCode->text().isEmpty(), tr("Не указан код")},
-        {ui->spinMinSum->value() > ui->spinMaxSum->value(),
-         tr("Минимальный платеж не может быть больше максимального")},
-    });
-    ui->pbtnOk->setEnabled(failure.isEmpty());
-    failure.isEmpty() ? resetError() : setError(failure);
+    check(
+        {
+            {ui->leName->text().isEmpty(), tr("Не указано название")},
+            {ui->leCode->text().isEmpty(), tr("Не указан код")},
+            {ui->spinMinSum->value() > ui->spinMaxSum->value(),
+             tr("Минимальный платеж не может быть больше максимального")},
+        },
+        ui->pbtnOk);
 }
 
 void OperatorDialog::on_pbtnOk_clicked()

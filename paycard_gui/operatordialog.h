@@ -17,9 +17,6 @@ public:
     OperatorDialog(QNoxSettings &record, QWidget *parent);
     ~OperatorDialog() override;
 
-    void setError(const QString &text);
-    void resetError();
-
 private slots:
     void on_pbtnOk_clicked();
     void on_pbtnCancel_clicked();

@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "settingsdialog.h"
 
+#include "formutils.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include <algorithm>
+
 SettingsDialog::SettingsDialog(QNoxSettings &document, QWidget *parent) : NoHelpButtonDialog(parent), settings(document)
 {
 }
@@ -17,14 +24,31 @@ void SettingsDialog::saveSettings()
     saveFields(fields, settings);
 }
 
-QString SettingsDialog::firstBroken(std::initializer_list<Rule> rules)
+void SettingsDialog::useErrorLine(QLabel *line, const QString &prefix)
 {
-    for (const Rule &rule : rules) {
-        if (rule.broken) {
-            return rule.message;
-        }
+    errorLine = line;
+    errorPrefix = prefix;
+}
+
+void SettingsDialog::setError(const QString &text)
+{
+    showError(errorLine, errorPrefix + text);
+}
+
+void SettingsDialog::resetError()
+{
+    errorLine->clear();
+}
+
+void SettingsDialog::check(std::initializer_list<Rule> rules, QPushButton *ok)
+{
+    const auto broken = std::find_if(rules.begin(), rules.end(), [](const Rule &rule) { return rule.broken; });
+    ok->setEnabled(broken == rules.end());
+    if (broken == rules.end()) {
+        resetError();
+    } else {
+        setError(broken->message);
     }
-    return QString();
 }
 
 void SettingsDialog::saveAndAccept()

@@ -7,7 +7,9 @@
 
 #include <initializer_list>
 
+class QLabel;
 class QNoxSettings;
+class QPushButton;
 
 /// A dialog that edits some settings of its caller's document: it fills its form when it is built and writes
 /// to the document only when it is accepted.
@@ -22,6 +24,9 @@ public:
 
     void loadSettings();
     virtual void saveSettings();
+    /// For the dialogs that have an error line.
+    void setError(const QString &text);
+    void resetError();
 
 protected:
     struct Rule
@@ -29,14 +34,20 @@ protected:
         bool broken;
         QString message;
     };
-    /// Message of the first broken rule; null when all hold.
-    static QString firstBroken(std::initializer_list<Rule> rules);
+    /// Where errors are shown, each behind the prefix.
+    void useErrorLine(QLabel *line, const QString &prefix = QString());
+    /// Shows the message of the first broken rule and disables OK; or neither, when all hold.
+    void check(std::initializer_list<Rule> rules, QPushButton *ok);
 
     void saveAndAccept();
 
     QNoxSettings &settings;
     /// The settings that the form shows; set by the constructors once there is a form.
     SettingFields fields;
+
+private:
+    QLabel *errorLine = nullptr;
+    QString errorPrefix;
 };
 
 #endif

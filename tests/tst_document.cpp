@@ -3,15 +3,12 @@
 
 #include <QtTest>
 
-Q_DECLARE_METATYPE(QVariant)
-
 class DocumentTest : public QObject
 {
     Q_OBJECT
 
 private slots:
     void textForm();
-    void numbers_data();
     void numbers();
     void roundTrip_data();
     void roundTrip();
@@ -44,28 +41,18 @@ void DocumentTest::textForm()
     QVERIFY(!settings.get("absent").isValid());
 }
 
-void DocumentTest::numbers_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("integer") << QVariant(-5) << "-5";
-    QTest::newRow("ten to the tenth") << QVariant(1e10) << "10000000000";
-    QTest::newRow("fifteen digits") << QVariant(123456789.1234567) << "123456789.123457";
-    QTest::newRow("tenth") << QVariant(0.1) << "0.1";
-    QTest::newRow("large") << QVariant(1e300) << "1e+300";
-    QTest::newRow("true") << QVariant(true) << "true";
-    QTest::newRow("nothing") << QVariant() << "";
-}
-
 void DocumentTest::numbers()
 {
-    QFETCH(QVariant, value);
-    QNoxSettings settings;
-    settings.set("n", value);
-    const QVariant read = QNoxSettings(settings.toXml(0)).get("n");
-    QTEST(read.toString(), "text");
-    // The document does not record types.
-    QVERIFY(read == QVariant(read.toString()));
+    const std::pair<QVariant, QString> rows[] = {
+        {-5, "-5"},      {1e10, "10000000000"}, {123456789.1234567, "123456789.123457"}, // fifteen digits
+        {0.1, "0.1"},    {1e300, "1e+300"},     {true, "true"},
+        {QVariant(), ""}};
+    for (const auto &row : rows) {
+        QNoxSettings settings;
+        settings.set("n", row.first);
+        // The document does not record types.
+        QCOMPARE(QNoxSettings(settings.toXml(0)).get("n"), QVariant(row.second));
+    }
 }
 
 void DocumentTest::roundTrip_data()

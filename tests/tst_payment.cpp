@@ -18,7 +18,6 @@ private slots:
     void operatorSelection();
     void operatorSelectionRefused();
     void manyOperators();
-    void commissionPreview_data();
     void commissionPreview();
     void commissionAnswers();
 };
@@ -209,51 +208,35 @@ void PaymentTest::manyOperators()
     QCOMPARE(shop.driver.journal().back().arguments, QString("9999"));
 }
 
-void PaymentTest::commissionPreview_data()
-{
-    QTest::addColumn<double>("sum");
-    QTest::addColumn<double>("rate");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<double>("max");
-    QTest::addColumn<QString>("included"); // the preview, with the error behind a bar
-    QTest::addColumn<QString>("added");
-    const auto row = [](const char *name, double sum, double rate, int type, double max, const char *included,
-                        const char *added) {
-        QTest::newRow(name) << sum << rate << type << max << QString(included) << QString(added);
-    };
-    row("fixed", 100, 5, 0, 1000, "95.00 5.00 100.00", "100.00 5.00 105.00");
-    row("percent", 100, 5, 1, 1000, "95.00 5.00 100.00", "100.00 5.00 105.00");
-    row("any other kind is percent", 200, 5, 7, 1000, "190.00 10.00 200.00", "200.00 10.00 210.00");
-    row("nothing left", 5, 5, 0, 1000, "0.00 5.00 5.00|Сумма недостаточна для проведения платежа|",
-        "5.00 5.00 10.00|Недопустимая сумма|");
-    row("a kopeck is no too small sum", 0.01, 0, 0, 1000, "0.01 0.00 0.01|Недопустимая сумма|",
-        "0.01 0.00 0.01|Недопустимая сумма|");
-    row("exactly the minimum", 10, 0, 0, 1000, "10.00 0.00 10.00", "10.00 0.00 10.00");
-    row("below the minimum", 9.99, 0, 0, 1000, "9.99 0.00 9.99|Недопустимая сумма|",
-        "9.99 0.00 9.99|Недопустимая сумма|");
-    row("exactly the maximum", 100, 5, 0, 100, "95.00 5.00 100.00", "100.00 5.00 105.00");
-    row("above the maximum", 100, 5, 0, 99.99, "95.00 5.00 100.00", "100.00 5.00 105.00|Недопустимая сумма|");
-    row("a maximum of nothing", 100, 5, 0, 0, "95.00 5.00 100.00|Недопустимая сумма|",
-        "100.00 5.00 105.00|Недопустимая сумма|");
-    row("half up", 20, 2.675, 0, 1000, "17.33 2.68 20.01", "20.00 2.68 22.68");
-    row("half down", 0, 2.675, 0, 1000, "-2.68 2.68 0.00|Сумма недостаточна для проведения платежа|",
-        "0.00 2.68 2.68|Сумма недостаточна для проведения платежа|");
-    row("just below the half", 20, 2.6749, 0, 1000, "17.33 2.67 20.00", "20.00 2.67 22.67");
-}
-
 void PaymentTest::commissionPreview()
 {
-    QFETCH(double, sum);
-    QFETCH(double, rate);
-    QFETCH(int, type);
-    QFETCH(double, max);
-    QFETCH(QString, included);
-    QFETCH(QString, added);
-    Register shop(
-        {{"Operators", 1},
-         {"Operator0", document({{"MinSum", 10}, {"MaxSum", max}, {"Comission", rate}, {"ComissionType", type}})}});
-    shop.driver.operation.operatorIndex = 0;
-    shop.driver.operation.sum = sum;
+    const struct
+    {
+        const char *name;
+        double sum, rate;
+        int type;
+        double max;
+        const char *included, *added; ///< the amounts, with the error between bars
+    } rows[] = {
+        {"fixed", 100, 5, 0, 1000, "95.00 5.00 100.00", "100.00 5.00 105.00"},
+        {"percent", 100, 5, 1, 1000, "95.00 5.00 100.00", "100.00 5.00 105.00"},
+        {"any other kind is percent", 200, 5, 7, 1000, "190.00 10.00 200.00", "200.00 10.00 210.00"},
+        {"nothing left", 5, 5, 0, 1000, "0.00 5.00 5.00|Сумма недостаточна для проведения платежа|",
+         "5.00 5.00 10.00|Недопустимая сумма|"},
+        {"a kopeck is no too small sum", 0.01, 0, 0, 1000, "0.01 0.00 0.01|Недопустимая сумма|",
+         "0.01 0.00 0.01|Недопустимая сумма|"},
+        {"exactly the minimum", 10, 0, 0, 1000, "10.00 0.00 10.00", "10.00 0.00 10.00"},
+        {"below the minimum", 9.99, 0, 0, 1000, "9.99 0.00 9.99|Недопустимая сумма|",
+         "9.99 0.00 9.99|Недопустимая сумма|"},
+        {"exactly the maximum", 100, 5, 0, 100, "95.00 5.00 100.00", "100.00 5.00 105.00"},
+        {"above the maximum", 100, 5, 0, 99.99, "95.00 5.00 100.00", "100.00 5.00 105.00|Недопустимая сумма|"},
+        {"a maximum of nothing", 100, 5, 0, 0, "95.00 5.00 100.00|Недопустимая сумма|",
+         "100.00 5.00 105.00|Недопустимая сумма|"},
+        {"half up", 20, 2.675, 0, 1000, "17.33 2.68 20.01", "20.00 2.68 22.68"},
+        {"half down", 0, 2.675, 0, 1000, "-2.68 2.68 0.00|Сумма недостаточна для проведения платежа|",
+         "0.00 2.68 2.68|Сумма недостаточна для проведения платежа|"},
+        {"just below the half", 20, 2.6749, 0, 1000, "17.33 2.67 20.00", "20.00 2.67 22.67"},
+    };
     const auto look = [](QWidget *window, const QString &expected) {
         const QStringList numbers = expected.section('|', 0, 0).split(' ');
         const QString error = expected.section('|', 1, 1);
@@ -264,18 +247,27 @@ void PaymentTest::commissionPreview()
         QCOMPARE(label->isVisible(), !error.isEmpty());
         QCOMPARE(child<QPushButton>(window, "pbtnOk")->isEnabled(), error.isEmpty());
     };
-    QCOMPARE(shop.run(CommissionAddition,
-                      {
-                          [&](QWidget *window) {
-                              look(window, included);
-                              QCOMPARE(shop.driver.journal().size(), 5);
-                              child<QComboBox>(window, "cmbCommissionAddition")->setCurrentIndex(1);
-                              look(window, added);
-                              QCOMPARE(shop.driver.journal().size(), 10);
-                          },
-                          press("pbtnCancel"),
-                      }),
-             0);
+    for (const auto &row : rows) {
+        Register shop(
+            {{"Operators", 1},
+             {"Operator0",
+              document({{"MinSum", 10}, {"MaxSum", row.max}, {"Comission", row.rate}, {"ComissionType", row.type}})}});
+        shop.driver.operation.operatorIndex = 0;
+        shop.driver.operation.sum = row.sum;
+        QCOMPARE(shop.run(CommissionAddition,
+                          {
+                              [&](QWidget *window) {
+                                  qInfo("%s", row.name);
+                                  look(window, row.included);
+                                  QCOMPARE(shop.driver.journal().size(), 5);
+                                  child<QComboBox>(window, "cmbCommissionAddition")->setCurrentIndex(1);
+                                  look(window, row.added);
+                                  QCOMPARE(shop.driver.journal().size(), 10);
+                              },
+                              press("pbtnCancel"),
+                          }),
+                 0);
+    }
 }
 
 void PaymentTest::commissionAnswers()

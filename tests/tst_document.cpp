@@ -108,6 +108,10 @@ void DocumentTest::reading_data()
     row("prefix without a namespace", "<r><p:x><value name='y'>2</value></p:x></r>", "y=2", 5);
     row("declaration", "<?xml version='1.0' encoding='windows-1251'?><r><value name='x'>\xD0\xB6</value></r>",
         "x=\xD0\xB6", 5);
+    row("declaration of an unknown encoding and version", "<?xml version='1.7' encoding='koi-9'?><r><value/></r>", "=",
+        5);
+    row("malformed declaration", "<?xml encoding='UTF-8'?><r><value/></r>", "", 5);
+    row("blank before the declaration", " <?xml version='1.0'?><r><value/></r>", "", 5);
     row("entity", "<!DOCTYPE r [<!ENTITY e 'E'>]><r><value name='x'>&e;&e;</value></r>", "x=EE", 5);
     row("empty", "", "", 5);
     row("no document", "Protocol=3", "", 5);
@@ -158,11 +162,19 @@ void DocumentTest::hostile_data()
         << 1;
     QTest::newRow("a million characters") << "<r>" + value.arg(QString("t").repeated(1000000)) + "</r>" << 1000000;
     QTest::newRow("one name two hundred times") << "<r>" + value.arg("1").repeated(200) + value.arg("22") + "</r>" << 2;
-    QTest::newRow("entities in entities")
-        << "<!DOCTYPE r [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
-           "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'><!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>]><r>" +
-               value.arg("&d;&d;&d;&d;&d;") + "</r>"
-        << -1;
+    // Nine levels of ten: a thousand million characters for each reference.
+    QString bomb = "<!DOCTYPE r [<!ENTITY e0 'aaaaaaaaaa'>";
+    for (int level = 1; level < 9; ++level) {
+        bomb += QString("<!ENTITY e%1 '%2'>").arg(level).arg(QString("&e%1;").arg(level - 1).repeated(10));
+    }
+    QTest::newRow("entities in entities") << bomb + "]><r>" + value.arg("&e8;") + "</r>" << -1;
+    QTest::newRow("the same, not referred to") << bomb + "]><r>" + value.arg("&e4;") + "</r>" << 100000;
+    QTest::newRow("the same, behind a character reference")
+        << bomb + "<!ENTITY f '&#38;e8;'>]><r>" + value.arg("&f;") + "</r>" << -1;
+    QTest::newRow("the same, in a default")
+        << bomb + "<!ATTLIST value name CDATA '&e8;'>]><r>" + value.arg("1") + "</r>" << -1;
+    QTest::newRow("one entity in a large document")
+        << "<!DOCTYPE r [<!ENTITY e 'E'>]><r>" + value.arg("&e;" + QString("t").repeated(99999)) + "</r>" << 100000;
     QTest::newRow("many entities in a name")
         << "<!DOCTYPE r [<!ENTITY a '" + QString("a").repeated(4000) + "'>]><r><value name='" +
                QString("&a;").repeated(20000) + "'/>" + value.arg("1") + "</r>"

@@ -32,8 +32,9 @@ public:
     QString toXml(int documentVersion) const;
 
     /// Replaces all entries by those of the text; by none if it is not well-formed. The version changes only
-    /// if a "settings" element is found below the outermost one, which never counts itself. Values that take
-    /// more than 2^26 characters together (they may be nested) make a text unreadable.
+    /// if a "settings" element is found below the outermost one, which never counts itself. A text
+    /// is also unreadable when its values take more than 2^26 characters together (they may be nested), or when
+    /// it has more than that once its entities are unfolded. Its XML declaration does not matter: it is decoded.
     void fromXml(const QString &xml);
 
 private:

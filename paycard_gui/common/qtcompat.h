@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <QXmlStreamReader>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 #include <QWindow>
@@ -54,6 +55,19 @@ inline bool isDouble(const QVariant &value)
     return value.typeId() == QMetaType::Double;
 #else
     return value.type() == QVariant::Double;
+#endif
+}
+
+/// Bounds what one entity may unfold to, in characters. False where the release knows no bound.
+inline bool boundEntities(QXmlStreamReader &reader, int characters)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
+    reader.setEntityExpansionLimit(characters);
+    return true;
+#else
+    Q_UNUSED(reader);
+    Q_UNUSED(characters);
+    return false;
 #endif
 }
 

@@ -2,6 +2,8 @@
 #include "commissionadditiondialog.h"
 
 #include "common/qt_utils.h"
+#include "common/showntext.h"
+#include "driverconversation.h"
 #include "mappinglist.h"
 #include "ui_commissionadditiondialog.h"
 
@@ -60,22 +62,32 @@ void CommissionAdditionDialog::on_cmbCommissionAddition_currentIndexChanged(int 
 /// Asks the driver anew each time, so that the preview is of its current data.
 void CommissionAdditionDialog::updatePreview()
 {
-    const double sum = driver.getDouble(&IPayCard::getSum);
-    const double rate = driver.getDouble(&IPayCard::getOperatorCommission);
-    const bool fixed = driver.getInt(&IPayCard::getOperatorCommissionType) == 0;
-    const double min = driver.getDouble(&IPayCard::getOperatorMinSum);
-    const double max = driver.getDouble(&IPayCard::getOperatorMaxSum);
+    double sum = 0;
+    double rate = 0;
+    bool fixed = true;
+    double min = 0;
+    double max = 0;
+    const bool lives = converse(this, driver, [&](const QNoxPaycard &wrapper) {
+        sum = wrapper.getDouble(&IPayCard::getSum);
+        rate = wrapper.getDouble(&IPayCard::getOperatorCommission);
+        fixed = wrapper.getInt(&IPayCard::getOperatorCommissionType) == 0;
+        min = wrapper.getDouble(&IPayCard::getOperatorMinSum);
+        max = wrapper.getDouble(&IPayCard::getOperatorMaxSum);
+    });
+    if (!lives) {
+        return;
+    }
 
     const double charged = fixed ? rate : sum * rate / 100;
     const double credited = cmbData(ui->cmbCommissionAddition) == IncludedInSum ? sum - charged : sum;
     const double credit = fround(credited, 2);
     const double commission = fround(charged, 2);
 
-    checkState(credit, min, max);
     // %4 and %5 are kept for markup that sets the credited amount off.
-    ui->lbQuery->setText(
-        tr("Зачислить %4%1 р.%5 + комиссия %2 р. = %3 р.")
-            .arg(amount(credit), amount(commission), amount(credit + commission), QString(), QString()));
+    ShownText::show(ui->lbQuery,
+                    tr("Зачислить %4%1 р.%5 + комиссия %2 р. = %3 р.")
+                        .arg(amount(credit), amount(commission), amount(credit + commission), QString(), QString()));
+    checkState(credit, min, max);
 }
 
 void CommissionAdditionDialog::checkState(double sum, double min, double max)

@@ -2,6 +2,8 @@
 #include "formutils.h"
 
 #include "common/nohelpbuttondialogs.h"
+#include "common/showntext.h"
+#include "common/windowfit.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -11,15 +13,10 @@
 
 void showError(QLabel *line, const QString &text)
 {
-    line->setText(text);
-    QWidget *window = line->window();
-    if (!window->isVisible()) {
-        return; // its layout sees to the height that wrapped texts need when it is first shown, but not later
+    ShownText::show(line, text);
+    if (line->window()->isVisible()) {
+        growToContents(*line->window());
     }
-    QLayout *layout = window->layout();
-    layout->activate();
-    const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(window->width()) : window->height();
-    window->resize(window->width(), std::max(height, window->height()));
 }
 
 namespace {

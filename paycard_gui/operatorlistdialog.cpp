@@ -3,6 +3,7 @@
 
 #include "common/qnoxsettings.h"
 #include "common/scopeddialog.h"
+#include "common/showntext.h"
 #include "operatordialog.h"
 #include "operatorrecords.h"
 #include "ui_operatorlistdialog.h"
@@ -13,30 +14,16 @@ namespace {
 const int NameWidth = 36;
 const int Lines = 18;
 
-/// An item shows the operator's name and carries its record.
-void setRecord(QListWidgetItem *item, const QNoxSettings &record)
-{
-    item->setText(OperatorRecords::name(record));
-    item->setData(Qt::UserRole, record.toXml(0));
-}
-
-QListWidgetItem *newItem(const QNoxSettings &record)
-{
-    QListWidgetItem *item = new QListWidgetItem;
-    setRecord(item, record);
-    return item;
-}
-
 } // namespace
 
 OperatorListDialog::OperatorListDialog(QNoxSettings &document, QWidget *parent)
     : NoHelpButtonDialog(parent), ui(new Ui_OperatorListDialog), settings(document)
 {
     ui->setupUi(this);
-    loadSettings();
-    enableEditing(false);
     // The list itself asks for a size that knows nothing of the font.
     ui->lwOperators->setMinimumSize(fontMetrics().averageCharWidth() * NameWidth, fontMetrics().height() * Lines);
+    loadSettings();
+    enableEditing(false);
     adjustSize();
 }
 
@@ -46,7 +33,7 @@ void OperatorListDialog::loadSettings()
 {
     const int count = OperatorRecords::count(settings);
     for (int i = 0; i < count; ++i) {
-        ui->lwOperators->addItem(newItem(OperatorRecords::record(settings, i)));
+        setRecord(new QListWidgetItem(ui->lwOperators), OperatorRecords::record(settings, i));
         settings.remove(OperatorRecords::key(i));
     }
 }
@@ -67,6 +54,19 @@ bool OperatorListDialog::edit(QNoxSettings &record)
     return dialog->exec() == Accepted;
 }
 
+/// An item shows the operator's name and carries its record.
+void OperatorListDialog::setRecord(QListWidgetItem *item, const QNoxSettings &record)
+{
+    const QString name = OperatorRecords::name(record);
+    const QString shown = ShownText::cut(name);
+    // Measuring takes its time, and a short one need not be measured.
+    const bool fits =
+        shown.size() < NameWidth / 2 || fontMetrics().boundingRect(shown).width() < ui->lwOperators->minimumWidth();
+    item->setText(shown);
+    item->setToolTip(ShownText::toolTip(name, fits ? shown : QString()));
+    item->setData(Qt::UserRole, record.toXml(0));
+}
+
 void OperatorListDialog::enableEditing(bool enabled)
 {
     ui->pbtnEdit->setEnabled(enabled);
@@ -78,7 +78,9 @@ void OperatorListDialog::on_pbtnAdd_clicked()
     guarded([this] {
         QNoxSettings record;
         if (edit(record)) {
-            ui->lwOperators->addItem(newItem(record));
+            QListWidgetItem *item = new QListWidgetItem(ui->lwOperators);
+            setRecord(item, record);
+            ui->lwOperators->setCurrentItem(item);
             enableEditing(true);
         }
     });

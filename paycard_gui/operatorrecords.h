@@ -3,10 +3,9 @@
 #define OPERATORRECORDS_H
 
 #include "common/qnoxsettings.h"
+#include "settingfields.h"
 
 #include <QString>
-
-#include <algorithm>
 
 /// The service operators in the settings document: their number, and for each a document of its own, kept as
 /// text under "Operator0", "Operator1" and so on.
@@ -26,7 +25,7 @@ inline QString key(int index)
 
 inline int count(const QNoxSettings &settings)
 {
-    return std::min(settings.get(CountKey).toInt(), MaxCount);
+    return wholeNumber(settings.get(CountKey), 0, MaxCount);
 }
 
 /// The record at this index, empty where there is none.

@@ -57,7 +57,7 @@ SettingField hexadecimal(const QString &key, QLineEdit *edit)
 {
     return {key,
             [=](const QVariant &stored) {
-                edit->setText(QString::fromLatin1("%1").arg(stored.toInt(), 4, 16, QLatin1Char('0')));
+                edit->setText(QString::fromLatin1("%1").arg(wholeNumber(stored, 0, 0xFFFF), 4, 16, QLatin1Char('0')));
             },
             [=] { return edit->text().toInt(nullptr, 16); }};
 }

@@ -16,7 +16,7 @@ public:
     using SettingsDialog::SettingsDialog;
     ~OrmaSettingsDialog() override;
 
-    void loadSettings();
+    void loadSettings() override;
     void saveSettings() override;
 
 protected:

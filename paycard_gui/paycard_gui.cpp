@@ -26,33 +26,59 @@ bool canShowWidgets()
     return application && application->thread() == QThread::currentThread();
 }
 
-/// The frame of the entry points: runs `action(driver, parent)`, which nothing leaves but its result.
-/// Whatever it throws is answered with a message box that says `failure`.
-template <class Action>
-int enter(NOX::PayCard::IPayCard *driver, QWidget *parent, const char *failure, Action action)
+/// The host's widget, which the host may delete at any time.
+class Parent
 {
-    if (!driver || !canShowWidgets()) {
-        return NotPerformed;
-    }
-    // The host may delete the parent while the window is open.
-    const QPointer<QWidget> guardedParent(parent);
+public:
+    explicit Parent(QWidget *parent) : widget(parent), given(parent != nullptr) {}
+
+    QWidget *get() const { return widget; }
+    bool isGone() const { return given && !widget; }
+
+private:
+    QPointer<QWidget> widget;
+    bool given;
+};
+
+/// The frame of the entry points: runs `action(driver, parent)`, which nothing leaves but its result. Whatever it
+/// throws is answered with a message box that says what `failure` is by then.
+template <class Action>
+int enter(NOX::PayCard::IPayCard *driver, QWidget *parent, const char *const &failure, Action action)
+{
     try {
-        return action(driver, parent);
+        if (!driver || !canShowWidgets()) {
+            return NotPerformed;
+        }
+        const Parent owner(parent);
+        try {
+            return action(driver, owner);
+        } catch (...) {
+            NoHelpButtonMessageBox::critical(owner.get(), QObject::tr("Ошибка"), QObject::tr(failure));
+        }
     } catch (...) {
-        NoHelpButtonMessageBox::critical(guardedParent, QObject::tr("Ошибка"), QObject::tr(failure));
-        return NotPerformed;
+        // There is no memory, not even for the box.
     }
+    return NotPerformed;
 }
 
 template <class Dialog>
-int run(NOX::PayCard::IPayCard *driver, QWidget *parent)
+int run(NOX::PayCard::IPayCard *driver, const Parent &parent)
 {
-    const ScopedDialog<Dialog> dialog(driver, parent);
+    // The driver may delete the parent while the dialog asks it, so that a dialog gets its parent once it is whole.
+    QWidget *const none = nullptr;
+    const ScopedDialog<Dialog> dialog(driver, none);
+    if (parent.isGone()) {
+        return QDialog::Rejected;
+    }
+    if (parent.get()) {
+        dialog->setParent(parent.get(), dialog->windowFlags());
+        dialog->adjustSize();
+    }
     return dialog->exec();
 }
 
 template <class Dialog>
-int runToAcceptance(NOX::PayCard::IPayCard *driver, QWidget *parent)
+int runToAcceptance(NOX::PayCard::IPayCard *driver, const Parent &parent)
 {
     return run<Dialog>(driver, parent) == QDialog::Accepted ? 1 : 0;
 }
@@ -86,21 +112,17 @@ int ShowProperties(NOX::PayCard::IPayCard *driver, QWidget *parent)
 
 int ConfirmPayment(NOX::PayCard::IPayCard *driver, QWidget *parent)
 {
-    QString text;
-    const auto compose = [&text](NOX::PayCard::IPayCard *object, QWidget *) {
-        text = paymentConfirmationText(QNoxPaycard(object));
-        return 0;
-    };
-    if (enter(driver, parent, QT_TRANSLATE_NOOP("QObject", "Ошибка получения параметров платежа"), compose) ==
-        NotPerformed) {
-        return NotPerformed;
-    }
-    const auto ask = [&text](NOX::PayCard::IPayCard *, QWidget *owner) {
-        return NoHelpButtonMessageBox::question(owner, QObject::tr("Подтверждение"), text,
+    const char *failure = QT_TRANSLATE_NOOP("QObject", "Ошибка получения параметров платежа");
+    return enter(driver, parent, failure, [&failure](NOX::PayCard::IPayCard *object, const Parent &owner) {
+        const QString text = paymentConfirmationText(QNoxPaycard(object));
+        if (owner.isGone()) {
+            return 0;
+        }
+        failure = QT_TRANSLATE_NOOP("QObject", "Ошибка подтверждения платежа");
+        return NoHelpButtonMessageBox::question(owner.get(), QObject::tr("Подтверждение"), text,
                                                 QMessageBox::Ok | QMessageBox::Cancel,
                                                 QMessageBox::Ok) == QMessageBox::Ok
                    ? 1
                    : 0;
-    };
-    return enter(driver, parent, QT_TRANSLATE_NOOP("QObject", "Ошибка подтверждения платежа"), ask);
+    });
 }

@@ -7,14 +7,16 @@
 #include "common/dialog_about.h"
 #include "common/qt_utils.h"
 #include "common/scopeddialog.h"
+#include "common/settingsreader.h"
+#include "common/showntext.h"
 #include "cyberplatsettingsdialog.h"
+#include "driverconversation.h"
 #include "formutils.h"
 #include "inpaslumipaysettingsdialog.h"
 #include "inpasormasettingsdialog.h"
 #include "operatorlistdialog.h"
 #include "sberbanklumipaysettingsdialog.h"
 #include "sberbankormasettingsdialog.h"
-#include "settingfields.h"
 #include "slipdialog.h"
 #include "ui_paysystemdialog.h"
 
@@ -31,7 +33,7 @@ const QString ProtocolKey = QString::fromWCharArray(L"Protocol");
 const QString PathACKey = QString::fromWCharArray(L"PathAC");
 const QString TimeoutKey = QString::fromWCharArray(L"Timeout");
 
-const char *const DefaultProtocol = "2";
+const int DefaultProtocol = 2;
 /// Version that documents for the driver are stamped with.
 const int DocumentVersion = 2;
 
@@ -89,7 +91,9 @@ void PaySystemDialog::PropertiesShown::end()
 {
     if (shown) {
         shown = false;
-        driver.raiseError(driver.nox()->setPropertiesShown(0));
+        // The driver may delete the window now, and this with it.
+        const QNoxPaycard wrapper(driver);
+        wrapper.raiseError(wrapper.nox()->setPropertiesShown(0));
     }
 }
 
@@ -98,6 +102,11 @@ PaySystemDialog::PaySystemDialog(IPayCard *object, QWidget *parent)
 {
     ui->setupUi(this);
     connect(ui->lePathACDialog, SIGNAL(textChanged(QString)), SLOT(checkState()));
+    fields = {
+        {ProtocolKey, ui->cmbProtocol, DefaultProtocol},
+        {PathACKey, ui->lePathACDialog},
+        {TimeoutKey, ui->spinTimeout},
+    };
     on_cmbProtocol_currentIndexChanged(ui->cmbProtocol->currentIndex());
     loadSettings();
     adjustSize();
@@ -122,57 +131,52 @@ void PaySystemDialog::setError(const QString &text)
 
 void PaySystemDialog::resetError()
 {
-    ui->lbError->clear();
+    setError(notice);
 }
 
 void PaySystemDialog::loadSettings()
 {
-    int result = 0;
-    settings.fromXml(driver.getBuff(&IPayCard::getSettings, &result));
-    driver.raiseError(result);
-    loadedXml = settings.toXml(0);
-
-    const QString protocols = driver.getBuff(&IPayCard::getSettingChoices, ProtocolKey.toStdWString().c_str(), &result);
-    driver.raiseError(result);
-    strToComboBox(ui->cmbProtocol, protocols, false);
-
-    QComboSelectIfCan(ui->cmbProtocol, settings.get(ProtocolKey).toString(), QLatin1String(DefaultProtocol));
-    showText(ui->lePathACDialog, settings.get(PathACKey).toString());
-    ui->spinTimeout->setValue(settings.get(TimeoutKey).toInt());
+    loadedXml = driver.getWhole(&IPayCard::getSettings);
+    const QString text = QString::fromStdWString(loadedXml);
+    settings.fromXml(text);
+    const QString readXml = settings.toXml(0);
+    if (readXml == QNoxSettings().toXml(0) && !text.isEmpty() && !SettingsReader(text).read()) {
+        notice = tr("Настройки драйвера не читаются. ОК заменит их, Отмена оставит как есть.");
+        resetError();
+    } else {
+        loadedXml = readXml.toStdWString();
+    }
+    const std::wstring protocols = driver.getWhole(&IPayCard::getSettingChoices, ProtocolKey.toStdWString().c_str());
+    strToComboBox(ui->cmbProtocol, QString::fromStdWString(protocols), false);
+    ShownText::cutItems(ui->cmbProtocol);
+    loadFields(fields, settings);
 }
 
 void PaySystemDialog::saveSettings()
 {
-    settings.set(PathACKey, ui->lePathACDialog->text());
-    // With no protocol chosen (the driver lists none) there is no number that could replace the stored one.
-    if (ui->cmbProtocol->currentIndex() >= 0) {
-        settings.set(ProtocolKey, cmbData(ui->cmbProtocol));
-    }
-    settings.set(TimeoutKey, ui->spinTimeout->value());
-    writeToDriver(settings.toXml(DocumentVersion));
+    saveFields(fields, settings);
+    writeToDriver(settings.toXml(DocumentVersion).toStdWString());
 }
 
-void PaySystemDialog::writeToDriver(const QString &xml)
+/// Gives the driver the text, which is this function's own: the window may go meanwhile. True while it exists.
+bool PaySystemDialog::writeToDriver(std::wstring xml)
 {
-    driver.raiseError(driver.nox()->setSettings(xml.toStdWString().c_str()));
-}
-
-/// The driver's document is rewritten on this way out, too, even when nothing was changed.
-void PaySystemDialog::cancel()
-{
-    writeToDriver(loadedXml);
-    NoHelpButtonDialog::reject();
+    return converse(this, driver,
+                    [&](const QNoxPaycard &wrapper) { wrapper.raiseError(wrapper.nox()->setSettings(xml.c_str())); });
 }
 
 /// Runs `action`; what it fails with is shown, and the dialog stays open.
 template <class Action>
 void PaySystemDialog::reportingFailure(Action action)
 {
+    const QPointer<PaySystemDialog> self(this);
     guarded([&] {
         try {
             action();
         } catch (const std::exception &failure) {
-            setError(QString::fromUtf8(failure.what()));
+            if (self) {
+                setError(QString::fromUtf8(failure.what()));
+            }
         }
     });
 }
@@ -244,15 +248,23 @@ void PaySystemDialog::checkState()
 
 void PaySystemDialog::on_pbtnOk_clicked()
 {
-    reportingFailure([this] {
+    const QPointer<PaySystemDialog> self(this);
+    reportingFailure([&] {
         saveSettings();
-        accept();
+        if (self) {
+            accept();
+        }
     });
 }
 
+/// The driver's document is rewritten on this way out, too, even when nothing was changed.
 void PaySystemDialog::on_pbtnCancel_clicked()
 {
-    reportingFailure([this] { cancel(); });
+    reportingFailure([this] {
+        if (writeToDriver(loadedXml)) {
+            NoHelpButtonDialog::reject();
+        }
+    });
 }
 
 void PaySystemDialog::reject()
@@ -261,11 +273,13 @@ void PaySystemDialog::reject()
 }
 
 /// Closing the window cancels, too, but always closes it: a driver that refuses its own document must not
-/// keep the register in this window. The refusal reaches the host.
+/// keep the register in this window. The refusal reaches the host. It is closed before the driver hears of it, who
+/// may have all windows closed in turn: Qt 5 would go on closing this one without end.
 void PaySystemDialog::closeEvent(QCloseEvent *event)
 {
     if (isVisible()) {
-        guarded([this] { cancel(); });
+        hide();
+        guarded([this] { writeToDriver(loadedXml); });
     }
     event->accept();
 }
@@ -273,9 +287,15 @@ void PaySystemDialog::closeEvent(QCloseEvent *event)
 void PaySystemDialog::on_pbtnAbout_clicked()
 {
     guarded([this] {
-        const QString name = driver.getBuff(&IPayCard::getDriverName);
-        const QString version = driver.getBuff(&IPayCard::getVersion);
-        const ScopedDialog<DialogAbout> about(name, version, this);
-        about->exec();
+        QString name;
+        QString version;
+        const bool lives = converse(this, driver, [&](const QNoxPaycard &wrapper) {
+            name = wrapper.getBuff(&IPayCard::getDriverName);
+            version = wrapper.getBuff(&IPayCard::getVersion);
+        });
+        if (lives) {
+            const ScopedDialog<DialogAbout> about(name, version, this);
+            about->exec();
+        }
     });
 }

@@ -5,19 +5,23 @@
 #include "common/nohelpbuttondialogs.h"
 #include "common/qnoxpaycard.h"
 #include "common/qnoxsettings.h"
+#include "settingfields.h"
 
 #include <memory>
+#include <string>
 
 class Ui_PaySystemDialog;
 
 /// The properties of the payment system. Reads the driver's settings document, edits it together with its
-/// sub-dialogs, and writes it back: edited on OK, as it was read on Cancel.
+/// sub-dialogs, and writes it back: edited on OK, as it was read on Cancel. A document that cannot be read is
+/// announced when the window opens; Cancel gives it back as it is.
 class PaySystemDialog : public NoHelpButtonDialog
 {
     Q_OBJECT
 
 public:
-    /// Throws DeviceNotFoundException without a driver and Exception when the driver fails.
+    /// Throws DeviceNotFoundException without a driver and Exception when the driver fails. The driver may delete
+    /// the parent meanwhile: one that the host gave belongs to the dialog once it is whole.
     PaySystemDialog(NOX::PayCard::IPayCard *driver, QWidget *parent);
     ~PaySystemDialog() override;
 
@@ -71,13 +75,16 @@ private:
     void edit();
     template <class Action>
     void reportingFailure(Action action);
-    void writeToDriver(const QString &xml);
-    void cancel();
+    bool writeToDriver(std::wstring xml);
 
     std::unique_ptr<Ui_PaySystemDialog> ui;
     QNoxPaycard driver;
-    QString loadedXml;
+    /// What Cancel gives the driver.
+    std::wstring loadedXml;
     QNoxSettings settings;
+    SettingFields fields;
+    /// Stands in the error line while there is no error.
+    QString notice;
     PropertiesShown propertiesShown;
 };
 

@@ -2,6 +2,8 @@
 #include "selectoperatordialog.h"
 
 #include "common/qt_utils.h"
+#include "common/showntext.h"
+#include "driverconversation.h"
 #include "operatorrecords.h"
 #include "ui_selectoperatordialog.h"
 
@@ -14,8 +16,10 @@ SelectOperatorDialog::SelectOperatorDialog(NOX::PayCard::IPayCard *object, QWidg
     for (int i = 0; i < count; ++i) {
         ui->cmbOperators->addItem(OperatorRecords::name(OperatorRecords::record(settings, i)), i);
     }
+    ShownText::cutItems(ui->cmbOperators);
     // Keeps the window at its size hint, also where that changes when the window is shown.
     layout()->setSizeConstraint(QLayout::SetFixedSize);
+    layout()->activate();
 }
 
 SelectOperatorDialog::~SelectOperatorDialog() = default;
@@ -23,8 +27,13 @@ SelectOperatorDialog::~SelectOperatorDialog() = default;
 void SelectOperatorDialog::on_pbtnOk_clicked()
 {
     guarded([this] {
-        driver.raiseError(driver.nox()->setOperatorIndex(cmbData(ui->cmbOperators)));
-        accept();
+        const int index = cmbData(ui->cmbOperators);
+        const bool lives = converse(this, driver, [=](const QNoxPaycard &wrapper) {
+            wrapper.raiseError(wrapper.nox()->setOperatorIndex(index));
+        });
+        if (lives) {
+            accept();
+        }
     });
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "settingfields.h"
 
+#include "common/inputs.h"
 #include "common/qnoxsettings.h"
 #include "common/qt_utils.h"
 
@@ -9,12 +10,38 @@
 #include <QLineEdit>
 #include <QSpinBox>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
+
+namespace {
+
+double finiteNumber(const QVariant &stored)
+{
+    const double number = stored.toDouble();
+    return std::isfinite(number) ? number : 0.0;
+}
+
+} // namespace
 
 void showText(QLineEdit *edit, const QString &text)
 {
+    liftLengthLimit(edit);
     edit->setText(text);
     edit->setCursorPosition(0);
+}
+
+int wholeNumber(const QVariant &stored, int minimum, int maximum)
+{
+    const QString text = stored.toString();
+    bool isNumber = false;
+    const qlonglong number = text.toLongLong(&isNumber);
+    if (isNumber) {
+        return static_cast<int>(std::max<qlonglong>(minimum, std::min<qlonglong>(number, maximum)));
+    }
+    // Perhaps one with more digits than the largest integers have.
+    const double large = finiteNumber(text);
+    return std::fabs(large) < 1e18 ? qBound(minimum, 0, maximum) : large < 0 ? minimum : maximum;
 }
 
 SettingField::SettingField(const QString &name, std::function<void(const QVariant &)> showValue,
@@ -32,14 +59,14 @@ SettingField::SettingField(const QString &name, QLineEdit *edit, const QString &
 
 SettingField::SettingField(const QString &name, QSpinBox *spin, int defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { spin->setValue(stored.toInt()); }, [=] { return spin->value(); },
-          defaultValue)
+          name, [=](const QVariant &stored) { spin->setValue(wholeNumber(stored, spin->minimum(), spin->maximum())); },
+          [=] { return spin->value(); }, defaultValue)
 {
 }
 
 SettingField::SettingField(const QString &name, QDoubleSpinBox *spin, double defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { spin->setValue(stored.toDouble()); }, [=] { return spin->value(); },
+          name, [=](const QVariant &stored) { spin->setValue(finiteNumber(stored)); }, [=] { return spin->value(); },
           defaultValue)
 {
 }

@@ -43,6 +43,10 @@ private:
 /// Shows a text from its beginning, also when the edit is too narrow for it.
 void showText(QLineEdit *edit, const QString &text);
 
+/// The stored number, or the nearest one in the range when it is beyond, whatever its size. Text that is no whole
+/// number counts as 0.
+int wholeNumber(const QVariant &stored, int minimum, int maximum);
+
 /// The settings of a form, which are loaded and saved in this order.
 typedef std::vector<SettingField> SettingFields;
 

@@ -32,12 +32,16 @@ void SettingsDialog::useErrorLine(QLabel *line, const QString &prefix)
 
 void SettingsDialog::setError(const QString &text)
 {
-    showError(errorLine, errorPrefix + text);
+    if (errorLine) {
+        showError(errorLine, errorPrefix + text);
+    }
 }
 
 void SettingsDialog::resetError()
 {
-    errorLine->clear();
+    if (errorLine) {
+        showError(errorLine, QString());
+    }
 }
 
 void SettingsDialog::check(std::initializer_list<Rule> rules, QPushButton *ok)

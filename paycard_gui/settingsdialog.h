@@ -22,9 +22,9 @@ public:
     SettingsDialog(QNoxSettings &document, QWidget *parent);
     ~SettingsDialog() override;
 
-    void loadSettings();
+    virtual void loadSettings();
     virtual void saveSettings();
-    /// For the dialogs that have an error line.
+    /// Nothing is shown, or cleared, in a dialog without an error line.
     void setError(const QString &text);
     void resetError();
 

@@ -13,7 +13,17 @@ const QString HeaderKey = QString::fromWCharArray(L"Header");
 const QString FooterKey = QString::fromWCharArray(L"Footer");
 const QString HideCardKey = QString::fromWCharArray(L"HideCard");
 
-/// Shows the text as the slip has it: every line centred.
+/// Makes the edit show every text as the slip has it, centred, whatever is typed, pasted or deleted. A word that
+/// is wider than the edit is not broken: breaking takes seconds for one of a million characters.
+void centre(QTextEdit *edit)
+{
+    edit->setWordWrapMode(QTextOption::WordWrap);
+    QTextOption option = edit->document()->defaultTextOption();
+    option.setAlignment(Qt::AlignCenter);
+    edit->document()->setDefaultTextOption(option);
+}
+
+/// Shows the text; its own paragraphs are centred, too, for whoever asks them.
 void setCentred(QTextEdit *edit, const QString &text)
 {
     edit->setPlainText(text);
@@ -26,6 +36,7 @@ void setCentred(QTextEdit *edit, const QString &text)
 
 SettingField centredField(const QString &key, QTextEdit *edit)
 {
+    centre(edit);
     return {key, [=](const QVariant &stored) { setCentred(edit, stored.toString()); },
             [=] { return edit->toPlainText(); }};
 }

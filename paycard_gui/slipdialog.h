@@ -17,7 +17,7 @@ public:
     SlipDialog(QNoxSettings &settings, QWidget *parent);
     ~SlipDialog() override;
 
-    void loadSettings();
+    void loadSettings() override;
     void saveSettings() override;
 
 private slots:

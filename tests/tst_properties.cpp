@@ -213,11 +213,11 @@ void PropertiesTest::values()
     QCOMPARE(odd.stored("Timeout").toInt(), 99);
     QCOMPARE(odd.stored("Protocol").toInt(), 2);
 
-    // With no list there is no number to store.
+    // With no list there is no protocol to select.
     Register silent({{"Protocol", 77}});
     silent.driver.failOperation("getSettingChoices", {Fault::NoText, 0, QString(), QString()});
     QCOMPARE(silent.run(ShowProperties, {press("pbtnOk")}), 1);
-    QCOMPARE(silent.stored("Protocol").toInt(), 77);
+    QCOMPARE(silent.stored("Protocol").toInt(), -1);
 }
 
 // Every way out, and what it costs the driver.

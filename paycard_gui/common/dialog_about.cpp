@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/dialog_about.h"
 
+#include "common/showntext.h"
 #include "ui_dialog_about.h"
 
 #include <QHeaderView>
@@ -52,7 +53,7 @@ protected:
 
 void setNameAndVersion(QLabel *label, const QString &name, const QString &version)
 {
-    label->setText(name.isEmpty() || version.isEmpty() ? name : name + QLatin1Char('\n') + version);
+    ShownText::show(label, name.isEmpty() || version.isEmpty() ? name : name + QLatin1Char('\n') + version);
 }
 
 } // namespace

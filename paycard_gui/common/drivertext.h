@@ -12,7 +12,12 @@ namespace DriverText {
 /// such a text counts as missing, where honouring it would take gigabytes.
 const int MaxLength = 1 << 26;
 
-/// The lengths that the driver reported: in its first answer (0 for an incredible one) and in its last.
+inline bool isCredible(int length)
+{
+    return length <= MaxLength;
+}
+
+/// The lengths that the driver reported, in its first answer and in its last; the same when it was asked once.
 struct Lengths
 {
     int first;
@@ -20,18 +25,15 @@ struct Lengths
 };
 
 /// Has `get(characters, size)` fill the buffer, which has its initial size, and once more when the text did
-/// not fit: then the buffer grows to the length reported plus `extra`. What the driver does not write is
-/// zero.
+/// not fit: then the buffer grows to the length reported plus `extra`, unless that is incredible. What the
+/// driver does not write is zero.
 template <class Get>
 Lengths read(std::vector<wchar_t> &buffer, int extra, Get get)
 {
     std::fill(buffer.begin(), buffer.end(), L'\0');
     const int size = static_cast<int>(buffer.size());
     const int length = get(buffer.data(), size);
-    if (length > MaxLength) {
-        return {0, 0};
-    }
-    if (length <= size) {
+    if (length <= size || !isCredible(length)) {
         return {length, length};
     }
     buffer.assign(static_cast<std::size_t>(length) + static_cast<std::size_t>(extra), L'\0');

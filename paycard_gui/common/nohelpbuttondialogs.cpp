@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/nohelpbuttondialogs.h"
 
+#include "common/inputs.h"
 #include "common/scopeddialog.h"
+#include "common/showntext.h"
+#include "common/windowfit.h"
 
 #include <QAbstractSpinBox>
+#include <QChildEvent>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QPointer>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QToolButton>
 
 #include <algorithm>
@@ -16,18 +21,44 @@
 
 namespace {
 
-// The failures of dialogs that are about to end. Beside the dialogs because other modules share the base
-// class's layout; only the GUI thread comes here.
+// The failures of dialogs that are about to end; null for the others, whose place is kept so that no memory is
+// needed when one fails. Beside the dialogs because other modules share the base class's layout; only the GUI
+// thread comes here.
 std::map<const NoHelpButtonDialog *, std::exception_ptr> failures;
 
-void clearHelpButton(QWidget &window)
+/// The host must not quit because a window of the library closes, be it the last one that is open. Nor for one
+/// that the toolkit opens from it, such as the question of a file dialog.
+class GuestWindows : public QObject
+{
+public:
+    explicit GuestWindows(QWidget *window) : QObject(window) { window->installEventFilter(this); }
+
+    bool eventFilter(QObject * /*window*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::ChildPolished) {
+            QWidget *child = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child());
+            if (child && child->isWindow()) {
+                child->setAttribute(Qt::WA_QuitOnClose, false);
+            }
+        }
+        return false;
+    }
+};
+
+/// What holds for every window from the start.
+void makeGuest(QWidget &window)
 {
     window.setWindowFlags(window.windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    window.setAttribute(Qt::WA_QuitOnClose, false);
+    new GuestWindows(&window);
 }
 
-/// For touch screens and full-screen hosts; to be done when the window is complete.
+/// For people, touch screens and full-screen hosts; to be done when the window is complete.
 void prepareToShow(QWidget &window)
 {
+    if (!qobject_cast<QFileDialog *>(&window)) {
+        prepareInputs(window);
+    }
     const QList<QWidget *> widgets = window.findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         const bool isPart =
@@ -48,8 +79,11 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
                                           const QString &text, QMessageBox::StandardButtons buttons,
                                           QMessageBox::StandardButton defaultButton)
 {
-    ScopedDialog<QMessageBox> box(icon, title, text, buttons, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    clearHelpButton(*box);
+    const bool isRich = Qt::mightBeRichText(text);
+    const QString shown = isRich ? ShownText::cutRich(text) : ShownText::cut(text);
+    ScopedDialog<QMessageBox> box(icon, title, shown, buttons, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    box->setToolTip(isRich && shown != text ? text : ShownText::toolTip(text, shown));
+    makeGuest(*box);
     box->setDefaultButton(defaultButton);
     prepareToShow(*box);
     return static_cast<QMessageBox::StandardButton>(box->exec());
@@ -59,7 +93,7 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
 template <class Dialog>
 bool runToAcceptance(const ScopedDialog<Dialog> &dialog)
 {
-    clearHelpButton(*dialog);
+    makeGuest(*dialog);
     prepareToShow(*dialog);
     return dialog->exec() == QDialog::Accepted && dialog;
 }
@@ -79,6 +113,28 @@ void prepareNumberInput(QInputDialog &dialog, QInputDialog::InputMode mode, doub
     dialog.setTextValue(value);
     dialog.setInputMode(mode);
 }
+
+/// Notices when the user changes the number of an input dialog.
+class InputObserver : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit InputObserver(const QInputDialog &dialog)
+    {
+        connect(&dialog, SIGNAL(doubleValueChanged(double)), SLOT(noteInput()));
+        // Also the number that is there already, typed anew.
+        connect(dialog.findChild<QLineEdit *>(QLatin1String("qt_spinbox_lineedit")), SIGNAL(textEdited(QString)),
+                SLOT(noteInput()));
+    }
+    bool hasInput() const { return input; }
+
+private slots:
+    void noteInput() { input = true; }
+
+private:
+    bool input = false;
+};
 
 void tell(bool *ok, bool value)
 {
@@ -113,7 +169,7 @@ QString runFileDialog(const ScopedDialog<QFileDialog> &dialog, QString *selected
 
 NoHelpButtonDialog::NoHelpButtonDialog(QWidget *parent) : QDialog(parent)
 {
-    clearHelpButton(*this);
+    makeGuest(*this);
 }
 
 NoHelpButtonDialog::~NoHelpButtonDialog()
@@ -125,18 +181,18 @@ int NoHelpButtonDialog::exec()
 {
     const QPointer<NoHelpButtonDialog> self(this);
     int code = Rejected;
-    if (failures.count(this) == 0) {
+    if (!failures[this]) {
         prepareToShow(*this);
+        growToContents(*this);
         code = QDialog::exec();
     }
     if (!self) {
         return Rejected;
     }
-    const auto failure = failures.find(this);
-    if (failure != failures.end()) {
-        const std::exception_ptr exception = failure->second;
-        failures.erase(failure);
-        std::rethrow_exception(exception);
+    std::exception_ptr failure;
+    std::swap(failure, failures[this]);
+    if (failure) {
+        std::rethrow_exception(failure);
     }
     return code;
 }
@@ -144,7 +200,10 @@ int NoHelpButtonDialog::exec()
 void NoHelpButtonDialog::endWith(std::exception_ptr failure)
 {
     // The first failure is the one to report.
-    failures.emplace(this, failure);
+    std::exception_ptr &kept = failures[this];
+    if (!kept) {
+        kept = std::move(failure);
+    }
     done(Rejected);
 }
 
@@ -181,6 +240,7 @@ QString NoHelpButtonInputDialog::getText(QWidget *parent, const QString &title, 
     ScopedDialog<QInputDialog> dialog(parent);
     prepareInput(*dialog, title, label);
     dialog->setTextEchoMode(echo);
+    liftLengthLimit(dialog->findChild<QLineEdit *>());
     dialog->setTextValue(text);
     const bool accepted = runToAcceptance(dialog);
     tell(ok, accepted);
@@ -206,8 +266,16 @@ double NoHelpButtonInputDialog::getDouble(QWidget *parent, const QString &title,
     ScopedDialog<QInputDialog> dialog(parent);
     prepareInput(*dialog, title, label);
     prepareNumberInput(*dialog, QInputDialog::DoubleInput, minimum, maximum, QString::number(value, 'g', 6));
+    const InputObserver observer(*dialog);
     bool isNumber = false;
-    const double number = runToAcceptance(dialog) ? dialog->textValue().toDouble(&isNumber) : 0.0;
+    double number = 0.0;
+    if (runToAcceptance(dialog)) {
+        number = dialog->textValue().toDouble(&isNumber);
+        if (observer.hasInput()) {
+            number = dialog->doubleValue();
+            isNumber = true;
+        }
+    }
     tell(ok, isNumber);
     return number;
 }
@@ -249,3 +317,5 @@ QString NoHelpButtonFileDialog::getExistingDirectory(QWidget *parent, const QStr
     }
     return runToAcceptance(dialog) ? firstSelected(*dialog) : QString();
 }
+
+#include "nohelpbuttondialogs.moc"

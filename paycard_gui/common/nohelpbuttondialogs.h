@@ -9,10 +9,12 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 
 #include <exception>
 
-/// Base of every dialog: no context-help button, and failures in slots that reach the caller of exec().
+/// Base of every dialog: no context-help button, failures in slots that reach the caller of exec(), and never
+/// the last window of an application, which then would quit.
 class PAYCARD_EXPORT NoHelpButtonDialog : public QDialog
 {
     Q_OBJECT
@@ -32,13 +34,17 @@ public:
 protected:
     /// Runs the body of a slot. Exceptions must not unwind through the toolkit's event loop, which ends the
     /// process: one of any type is kept, the dialog ends, and exec() throws it on.
+    /// When the dialog went meanwhile, with its parent, nobody is left to hear of it.
     template <class Action>
     void guarded(Action action)
     {
+        const QPointer<NoHelpButtonDialog> self(this);
         try {
             action();
         } catch (...) {
-            endWith(std::current_exception());
+            if (self) {
+                endWith(std::current_exception());
+            }
         }
     }
 
@@ -82,8 +88,8 @@ public:
     /// 0: the callers in the field count on it.
     static int getInt(QWidget *parent, const QString &title, const QString &label, bool *ok, int value, int minimum,
                       int maximum);
-    /// The dialog's text value as a number, which is `value` with 6 significant digits whatever the number
-    /// input shows; 0.0 when cancelled. `ok` tells whether the text was a number.
+    /// The number that the user has entered; `value` with 6 significant digits when the input was left alone,
+    /// whatever it shows; 0.0 when cancelled. `ok` tells whether there is a number.
     static double getDouble(QWidget *parent, const QString &title, const QString &label, bool *ok, double value,
                             double minimum, double maximum);
 };

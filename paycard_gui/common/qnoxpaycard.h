@@ -13,6 +13,7 @@
 
 #include <cwchar>
 #include <exception>
+#include <string>
 #include <vector>
 
 /// A failure with a text for people.
@@ -70,10 +71,16 @@ public:
     double getDouble(DoubleGetter getter) const;
 
     /// The text that the getter writes up to its closing zero, or a null text. A failure of the getter raises
-    /// nothing; callers that want it raised pass `length`, which gets the getter's result, to raiseError().
-    QString getBuff(TextGetter getter, int *length = nullptr) const;
+    /// nothing.
+    QString getBuff(TextGetter getter) const;
     /// The same for the text that belongs to a name, such as a setting's value.
-    QString getBuff(NamedTextGetter getter, const wchar_t *name, int *length = nullptr) const;
+    QString getBuff(NamedTextGetter getter, const wchar_t *name) const;
+
+    /// The same for callers that cannot do with less than the driver's whole text, in its own characters: throws
+    /// an Exception when the getter fails, at first or when it is asked once more, when the text does not fit
+    /// then either, and when its length is incredible.
+    std::wstring getWhole(TextGetter getter) const;
+    std::wstring getWhole(NamedTextGetter getter, const wchar_t *name) const;
 
     /// Takes the result of a driver's operation and returns it. Throws an Exception with the driver's own
     /// "[code] text (detail)" when the result is negative and the driver has a result code.
@@ -81,7 +88,9 @@ public:
 
 private:
     template <class Get>
-    QString readText(Get get, int *length) const;
+    QString readText(Get get) const;
+    template <class Get>
+    std::wstring readWhole(Get get) const;
 
     T *driver;
     // Never used here; part of the layout that the family's modules share.
@@ -145,32 +154,58 @@ double QNoxInterface<T>::getDouble(DoubleGetter getter) const
 }
 
 template <class T>
-QString QNoxInterface<T>::getBuff(TextGetter getter, int *length) const
+QString QNoxInterface<T>::getBuff(TextGetter getter) const
 {
     T *object = nox();
-    return readText([=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); }, length);
+    return readText([=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); });
 }
 
 template <class T>
-QString QNoxInterface<T>::getBuff(NamedTextGetter getter, const wchar_t *name, int *length) const
+QString QNoxInterface<T>::getBuff(NamedTextGetter getter, const wchar_t *name) const
 {
     T *object = nox();
-    return readText([=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); }, length);
+    return readText([=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); });
+}
+
+template <class T>
+std::wstring QNoxInterface<T>::getWhole(TextGetter getter) const
+{
+    T *object = nox();
+    return readWhole([=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); });
+}
+
+template <class T>
+std::wstring QNoxInterface<T>::getWhole(NamedTextGetter getter, const wchar_t *name) const
+{
+    T *object = nox();
+    return readWhole([=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); });
 }
 
 template <class T>
 template <class Get>
-QString QNoxInterface<T>::readText(Get get, int *length) const
+QString QNoxInterface<T>::readText(Get get) const
 {
     std::vector<wchar_t> buffer(static_cast<std::size_t>(defaultBufferSize()));
-    const int reported = DriverText::read(buffer, 1, get).first;
-    if (length) {
-        *length = reported;
-    }
-    if (reported < 1) {
+    const DriverText::Lengths lengths = DriverText::read(buffer, 1, get);
+    if (!DriverText::isCredible(lengths.first) || lengths.first < 1) {
         return QString();
     }
     return QString::fromWCharArray(buffer.data(), static_cast<int>(wcsnlen(buffer.data(), buffer.size())));
+}
+
+template <class T>
+template <class Get>
+std::wstring QNoxInterface<T>::readWhole(Get get) const
+{
+    std::vector<wchar_t> buffer(static_cast<std::size_t>(defaultBufferSize()));
+    const int initialSize = defaultBufferSize();
+    const DriverText::Lengths lengths = DriverText::read(buffer, 1, get);
+    raiseError(lengths.last);
+    const bool isGone = lengths.first > initialSize && lengths.last < 1;
+    if (isGone || lengths.last > static_cast<int>(buffer.size())) {
+        throw Exception(QObject::tr("Драйвер не дал текст целиком"));
+    }
+    return std::wstring(buffer.data(), lengths.last < 1 ? 0 : wcsnlen(buffer.data(), buffer.size()));
 }
 
 template <class T>

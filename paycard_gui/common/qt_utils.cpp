@@ -5,8 +5,8 @@
 #include "common/ipaycard.h"
 #include "common/qtcompat.h"
 
-#include <QApplication>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QListWidget>
@@ -55,13 +55,14 @@ std::optional<MappingEntry> findEntry(const QString &mapping, Matches matches)
     return std::nullopt;
 }
 
-/// Index of the first item whose data in this role is the text, or -1. Compared as text: the toolkit compares
-/// an integer with a text by number, so that 2 would find "02".
-int findItem(const QComboBox *combo, const QString &text, int role)
+/// Index of the first item with this data in this role, or -1. Compared as text: the toolkit compares an integer
+/// with a text by number, so that 2 would find "02". No data is not the empty text.
+int findItem(const QComboBox *combo, const QVariant &value, int role)
 {
     const int count = combo ? combo->count() : 0;
     for (int i = 0; i < count; ++i) {
-        if (combo->itemData(i, role).toString() == text) {
+        const QVariant data = combo->itemData(i, role);
+        if (data.isValid() == value.isValid() && data.toString() == value.toString()) {
             return i;
         }
     }
@@ -83,7 +84,8 @@ const std::size_t SettingBufferSize = 2048;
 template <class Get>
 QString readSetting(std::vector<wchar_t> &buffer, Get get)
 {
-    const int length = DriverText::read(buffer, 0, get).last;
+    const DriverText::Lengths lengths = DriverText::read(buffer, 0, get);
+    const int length = DriverText::isCredible(lengths.first) ? lengths.last : 0;
     return QString::fromWCharArray(buffer.data(), std::max(0, std::min(length, static_cast<int>(buffer.size()))));
 }
 
@@ -108,8 +110,12 @@ QString cmbDataStr(QComboBox *combo, int role)
 
 int cmbData(QComboBox *combo, int role)
 {
-    // From the text: a variant cuts a number that is too large where a text gives 0.
-    return combo && combo->currentIndex() >= 0 ? cmbDataStr(combo, role).toInt() : -1;
+    if (!combo || combo->currentIndex() < 0) {
+        return -1;
+    }
+    // A variant cuts the number of a text that is too large, where the text itself gives 0.
+    const QVariant data = combo->itemData(combo->currentIndex(), role);
+    return QtCompat::isText(data) ? data.toString().toInt() : data.toInt();
 }
 
 int QComboCanSelect(QComboBox *combo, const QString &text)
@@ -124,12 +130,12 @@ int QComboCanSelect(QComboBox *combo, int value)
 
 void QComboSelect(QComboBox *combo, const QVariant &value)
 {
-    QComboSelect(combo, value.toString());
+    setCurrent(combo, findItem(combo, value, Qt::UserRole));
 }
 
 void QComboSelect(QComboBox *combo, const QString &text)
 {
-    setCurrent(combo, QComboCanSelect(combo, text));
+    QComboSelect(combo, QVariant(text));
 }
 
 void QComboSelect(QComboBox *combo, int value)
@@ -293,12 +299,12 @@ QString defaultDeviceName(NOX::IVELBase *driver)
     const QString model = readDescriptionOfCurrentSetting(driver, L"Model");
     const QString port = readDescriptionOfCurrentSetting(driver, L"Port");
     if (port == QString::fromWCharArray(L"Файл устройства")) {
-        return QObject::tr("%1 (%2 %3)")
-            .arg(model, readCurrentSetting(driver, L"TTYSuffix"), readDescriptionOfCurrentSetting(driver, L"BaudRate"));
+        const QString suffix = readCurrentSetting(driver, L"TTYSuffix");
+        return QObject::tr("%1 (%2 %3)").arg(model, suffix, readDescriptionOfCurrentSetting(driver, L"BaudRate"));
     }
     if (port == QLatin1String("TCP/IP") || port == QLatin1String("UDP/IP")) {
-        return QObject::tr("%1 (%2:%3)")
-            .arg(model, readCurrentSetting(driver, L"IPAddress"), readCurrentSetting(driver, L"IPPort"));
+        const QString address = readCurrentSetting(driver, L"IPAddress");
+        return QObject::tr("%1 (%2:%3)").arg(model, address, readCurrentSetting(driver, L"IPPort"));
     }
     if (port.startsWith(QLatin1String("COM"))) {
         return QObject::tr("%1 (%2 %3)").arg(model, port, readDescriptionOfCurrentSetting(driver, L"BaudRate"));
@@ -310,16 +316,6 @@ QString defaultDeviceName(NOX::IVELBase *driver)
         return QObject::tr("%1 (%2)").arg(model, port);
     }
     return QDateTime::currentDateTime().toString(QString::fromLatin1("yyyy.MM.dd HH:mm:ss.zzz"));
-}
-
-QCoreApplication *app()
-{
-    if (!QCoreApplication::instance()) {
-        // Never destroyed: later calls find it, and it must outlive whatever the host still shows.
-        static int argumentCount = 0;
-        new QApplication(argumentCount, nullptr);
-    }
-    return QCoreApplication::instance();
 }
 
 QString appDir()

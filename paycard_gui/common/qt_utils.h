@@ -97,7 +97,9 @@ PAYCARD_EXPORT QString defaultDeviceName(NOX::IVELBase *driver);
 /// \name The process
 ///@{
 
-/// The application object, created if there is none and then never destroyed.
+/// The application object. Created if there is none, then never destroyed, and the library stays loaded; the
+/// locale of the process stays as it was. Null when none can be created: there is no display to connect to, the
+/// process has loaded another major release of the toolkit, or it ends and its application object has gone.
 PAYCARD_EXPORT QCoreApplication *app();
 /// Directory of the application's executable with a separator at the end; the last one known while there is
 /// no application object.

@@ -3,6 +3,7 @@
 #define QTCOMPAT_H
 
 #include <QApplication>
+#include <QByteArray>
 #include <QFileDialog>
 #include <QLibraryInfo>
 #include <QString>
@@ -10,7 +11,17 @@
 #include <QVariant>
 #include <QXmlStreamReader>
 
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+#include <QScreen>
+#else
+#include <QDesktopWidget>
+#endif
+
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QPluginLoader>
 #include <QWindow>
 #endif
 
@@ -49,13 +60,23 @@ inline QString escaped(const QString &text)
 #endif
 }
 
-inline bool isDouble(const QVariant &value)
+inline int typeOf(const QVariant &value)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return value.typeId() == QMetaType::Double;
+    return value.typeId();
 #else
-    return value.type() == QVariant::Double;
+    return value.userType();
 #endif
+}
+
+inline bool isDouble(const QVariant &value)
+{
+    return typeOf(value) == QMetaType::Double;
+}
+
+inline bool isText(const QVariant &value)
+{
+    return typeOf(value) == QMetaType::QString;
 }
 
 /// Bounds what one entity may unfold to, in characters. False where the release knows no bound.
@@ -68,6 +89,16 @@ inline bool boundEntities(QXmlStreamReader &reader, int characters)
     Q_UNUSED(reader);
     Q_UNUSED(characters);
     return false;
+#endif
+}
+
+/// What the screen that the widget is on, or will be, has for windows.
+inline QRect availableGeometry(const QWidget &widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+    return widget.screen()->availableGeometry();
+#else
+    return QApplication::desktop()->availableGeometry(&widget);
 #endif
 }
 
@@ -105,6 +136,50 @@ inline void keepAboveActiveWindow(QWidget &window)
     }
 #else
     Q_UNUSED(window);
+#endif
+}
+
+/// The platforms that an application object would try, each with its parameters behind a colon.
+inline QList<QByteArray> platformsToTry()
+{
+    QByteArray platforms = "xcb";
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        platforms = qgetenv("QT_QPA_PLATFORM");
+    } else if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland") {
+        platforms = "wayland;xcb";
+    }
+#endif
+    return platforms.split(';');
+}
+
+/// False when the toolkit has no plugin for this platform, or one that cannot be loaded.
+inline bool hasPlatform(const QString &platform)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    // There is no application object yet whose directory the toolkit would add.
+    const QString own = QFileInfo(QFile::symLinkTarget(QLatin1String("/proc/self/exe"))).path();
+    QStringList directories = {QFile::decodeName(qgetenv("QT_QPA_PLATFORM_PLUGIN_PATH")),
+                               own + QLatin1String("/platforms")};
+    const QStringList roots = QCoreApplication::libraryPaths() + QStringList(own + QLatin1String("/plugins"));
+    for (const QString &root : roots) {
+        directories += root + QLatin1String("/platforms");
+    }
+    for (const QString &directory : directories) {
+        const QFileInfoList files = directory.isEmpty() ? QFileInfoList() : QDir(directory).entryInfoList(QDir::Files);
+        for (const QFileInfo &file : files) {
+            QPluginLoader plugin(file.filePath());
+            const QJsonObject data = plugin.metaData().value(QLatin1String("MetaData")).toObject();
+            if (data.value(QLatin1String("Keys")).toArray().contains(platform) && plugin.load()) {
+                return true;
+            }
+        }
+    }
+    // A configuration beside the program may name other places.
+    return QFile::exists(own + QLatin1String("/qt.conf"));
+#else
+    Q_UNUSED(platform);
+    return true;
 #endif
 }
 

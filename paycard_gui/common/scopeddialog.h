@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+#include <memory>
 #include <utility>
 
 /// A dialog that lives for a scope, as a local object would, except that its parent may delete it first: the
@@ -13,8 +14,12 @@ class ScopedDialog
 {
 public:
     template <class... Arguments>
-    explicit ScopedDialog(Arguments &&...arguments) : dialog(new Dialog(std::forward<Arguments>(arguments)...))
+    explicit ScopedDialog(Arguments &&...arguments)
     {
+        // Memory may run out for the pointer after there was enough for the dialog.
+        std::unique_ptr<Dialog> made(new Dialog(std::forward<Arguments>(arguments)...));
+        dialog = made.get();
+        made.release();
     }
     ScopedDialog(const ScopedDialog &) = delete;
     ScopedDialog &operator=(const ScopedDialog &) = delete;

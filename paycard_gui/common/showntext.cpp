@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "common/showntext.h"
+
+#include "common/qtcompat.h"
+
+#include <QComboBox>
+#include <QLabel>
+
+namespace {
+
+const int MaxLength = 500;
+const int MaxLines = 12;
+/// Of rich text, with what stands beside the driver's own.
+const int MaxRichLength = 600;
+const int MaxToolTipLength = 10000;
+
+const QChar Ellipsis(0x2026);
+
+/// The first characters and an ellipsis, where there are more.
+QString beginning(const QString &text, int length)
+{
+    if (text.size() <= length) {
+        return text;
+    }
+    const bool splitsPair = length > 0 && text.at(length - 1).isHighSurrogate();
+    return text.left(splitsPair ? length - 1 : length) + Ellipsis;
+}
+
+/// Length of what is read as one in rich text: a tag, an entity, or a character.
+int unitLength(const QString &text, int start)
+{
+    const QChar first = text.at(start);
+    if (first != QLatin1Char('<') && first != QLatin1Char('&')) {
+        return first.isHighSurrogate() ? 2 : 1;
+    }
+    const auto end = text.indexOf(QLatin1Char(first == QLatin1Char('<') ? '>' : ';'), start);
+    return end < 0 ? 1 : static_cast<int>(end) - start + 1;
+}
+
+} // namespace
+
+QString ShownText::cut(const QString &text)
+{
+    const QString shown = beginning(text, MaxLength);
+    int lines = 1;
+    for (int i = 0; i < shown.size(); ++i) {
+        if (shown.at(i) == QLatin1Char('\n') && ++lines > MaxLines) {
+            return beginning(shown, i);
+        }
+    }
+    return shown;
+}
+
+QString ShownText::cutRich(const QString &text)
+{
+    QString shown;
+    int length = 0; // of the line
+    for (int start = 0; start < text.size();) {
+        const QString unit = text.mid(start, unitLength(text, start));
+        start += static_cast<int>(unit.size());
+        const bool isTag = unit.startsWith(QLatin1Char('<')) && unit.size() > 1;
+        if (isTag || length < MaxRichLength) {
+            shown += unit;
+        } else if (length == MaxRichLength) {
+            shown += Ellipsis;
+        }
+        length = unit.startsWith(QLatin1String("<br")) ? 0 : isTag ? length : length + 1;
+    }
+    return shown;
+}
+
+QString ShownText::toolTip(const QString &text, const QString &shown)
+{
+    if (text == shown) {
+        return QString();
+    }
+    return QLatin1String("<span>") + QtCompat::escaped(beginning(text, MaxToolTipLength)) + QLatin1String("</span>");
+}
+
+void ShownText::show(QLabel *label, const QString &text)
+{
+    const QString shown = cut(text);
+    label->setText(shown);
+    label->setToolTip(toolTip(text, shown));
+    label->setMinimumWidth(0);
+    if (label->minimumSizeHint().width() > QtCompat::availableGeometry(*label).width() * 2 / 3) {
+        label->setWordWrap(true);
+        label->setMinimumWidth(1);
+    }
+}
+
+void ShownText::cutItems(QComboBox *combo)
+{
+    for (int i = 0; i < combo->count(); ++i) {
+        const QString text = combo->itemText(i);
+        const QString shown = cut(text);
+        if (shown != text) {
+            combo->setItemText(i, shown);
+            combo->setItemData(i, toolTip(text, shown), Qt::ToolTipRole);
+        }
+    }
+}

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef WINDOWFIT_H
+#define WINDOWFIT_H
+
+class QWidget;
+
+/// Makes the window as large as its contents need it to be, at least. The toolkit does not see to the height of
+/// wrapped texts: not once a window is shown, and with its oldest release never.
+void growToContents(QWidget &window);
+
+#endif

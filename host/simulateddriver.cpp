@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <climits>
@@ -127,27 +126,26 @@ QString SimulatedDriver::sample(const QString &name)
 
 SimulatedDriver::SimulatedDriver() : document(EmptyDocument), last(refusal(Success)) {}
 
-bool SimulatedDriver::openSettings(const QString &newPath, QString *reason)
+bool SimulatedDriver::openSettings(const QString &path, QString *reason)
 {
-    QFile file(newPath);
-    QString problem;
-    QString text = EmptyDocument;
-    if (file.open(QIODevice::ReadOnly)) {
-        text = QString::fromUtf8(file.readAll());
-    } else if (file.exists()) {
-        problem = QStringLiteral("файл не читается: %1").arg(file.errorString());
+    // Its own file is not locked for this driver.
+    const std::shared_ptr<SettingsFile> opened = file && file->isAt(path) ? file : std::make_shared<SettingsFile>(path);
+    QByteArray bytes = EmptyDocument;
+    QString problem = opened->lock();
+    if (problem.isEmpty()) {
+        problem = opened->read(&bytes);
     }
-    const Document opened(text);
-    if (!opened.content.isValid()) {
-        problem = QStringLiteral("документ испорчен: %1").arg(opened.content.errorPlace());
-    } else if (text.contains(QChar::ReplacementCharacter)) {
+    const Document read(QString::fromUtf8(bytes));
+    if (problem.isEmpty() && !read.content.isValid()) {
+        problem = QStringLiteral("документ испорчен: %1").arg(read.content.errorPlace());
+    } else if (problem.isEmpty() && read.text.contains(QChar::ReplacementCharacter)) {
         problem = QStringLiteral("кодировка не UTF-8");
     }
     if (problem.isEmpty()) {
-        document = opened;
-        path = newPath;
+        document = read;
+        file = opened;
     } else if (reason) {
-        *reason = QStringLiteral("Настройки %1 не открыты: %2").arg(newPath, problem);
+        *reason = QStringLiteral("Настройки %1 не открыты: %2").arg(path, problem);
     }
     return problem.isEmpty();
 }
@@ -168,13 +166,10 @@ Failure SimulatedDriver::replaceDocument(const QString &xml)
         return refusal(MalformedSettings, QStringLiteral("Документ настроек не читается"),
                        replacement.content.errorPlace());
     }
-    if (!path.isEmpty()) {
-        QSaveFile file(path);
-        const QByteArray bytes = xml.toUtf8();
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-            return refusal(SettingsNotSaved, QStringLiteral("Настройки не сохранены"),
-                           QStringLiteral("%1: %2").arg(path, file.errorString()));
-        }
+    const QString problem = file ? file->write(xml.toUtf8()) : QString();
+    if (!problem.isEmpty()) {
+        return refusal(SettingsNotSaved, QStringLiteral("Настройки не сохранены"),
+                       QStringLiteral("%1: %2").arg(file->path(), problem));
     }
     document = replacement;
     return refusal(Success);

@@ -4,12 +4,14 @@
 
 #include "common/ipaycard.h"
 #include "settingsdocument.h"
+#include "settingsfile.h"
 
 #include <QMap>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 /// How an operation of the simulated driver is made to fail.
@@ -73,14 +75,14 @@ public:
     SimulatedDriver();
 
     /// Reads the settings from this file, from now on the place that setSettings() saves them to. A file that
-    /// does not exist yet is an empty document. False, with the reason, when it cannot be read or is
-    /// malformed; the driver then stays as it was.
+    /// does not exist yet is an empty document. False, with the reason, when it cannot be read, is malformed or
+    /// another driver has it; this one then stays as it was.
     bool openSettings(const QString &path, QString *reason);
 
     /// That file, or nothing while the settings are kept in memory only.
-    QString settingsFile() const { return path; }
+    QString settingsFile() const { return file ? file->path() : QString(); }
     /// Saves no more, and leaves the file as it is.
-    void closeSettings() { path.clear(); }
+    void closeSettings() { file.reset(); }
 
     /// The current document, and a way to replace it as setSettings() does. False, with the reason, when it
     /// is refused.
@@ -155,7 +157,8 @@ private:
     void writeDown(const char *name, const QString &arguments, const QString &result);
 
     Document document;
-    QString path;
+    /// Shared with nobody but the next opening of the same file.
+    std::shared_ptr<SettingsFile> file;
     QMap<QString, Failure> inForce;
     /// What the error operations tell of; code 0 after a success.
     Failure last;

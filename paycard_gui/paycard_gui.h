@@ -11,9 +11,10 @@ class QWidget;
 /// closed.
 ///
 /// `driver` stays the host's and is not kept; `parent` becomes the parent of all windows shown and may be
-/// null. An application object is created if the process has none. -1 always means that nothing was
-/// performed: there is no driver, no application object that can show widgets, the call came from another
-/// thread than that object's, or something failed, which a message box has told the user.
+/// null. An application object is created if the process has none and there is a display. -1 means that the
+/// call failed: there is no driver, no application object that can show widgets, the call came from another
+/// thread than that object's, or something failed, which a message box has told the user. Nothing was performed
+/// then but in the two cases that ShowProperties() names.
 extern "C" {
 
 /// Present for the hosts that ask for it; touches nothing and returns -1.
@@ -28,7 +29,8 @@ PAYCARD_EXPORT int CommissionAddition(NOX::PayCard::IPayCard *driver, QWidget *p
 PAYCARD_EXPORT int SelectOperator(NOX::PayCard::IPayCard *driver, QWidget *parent);
 
 /// Shows the properties of the payment system. Returns 1 when the driver has taken the edited settings, 0
-/// when the user cancelled, -1 also when the driver refuses to be told afterwards that they are closed.
+/// when the user cancelled. -1, too, when the driver refuses to be told afterwards that they are closed: it has
+/// taken the edited settings by then, or after Cancel those that it had.
 PAYCARD_EXPORT int ShowProperties(NOX::PayCard::IPayCard *driver, QWidget *parent);
 
 /// Shows the data of the current payment. Returns 1 when the cashier confirmed them, otherwise 0.

@@ -45,9 +45,8 @@ QString serialPortChoices()
 SettingField speed(QComboBox *combo)
 {
     // 4800 has the caption of 2400 on purpose: there is no caption of its own for it.
-    static const QString choices = QObject::tr("1200:1200 бод;2400:2400 бод;4800:2400 бод;9600:9600 бод;"
-                                               "19200:19200 бод;38400:38400 бод;57600:57600 бод;"
-                                               "115200:115200 бод;");
+    const QString choices = QObject::tr("1200:1200 бод;2400:2400 бод;4800:2400 бод;9600:9600 бод;"
+                                        "19200:19200 бод;38400:38400 бод;57600:57600 бод;115200:115200 бод;");
     strToComboBox(combo, choices, false);
     return {BaudrateKey, combo, QString::fromLatin1("9600")};
 }

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# Installation: the library, its headers, a CMake package and a pkg-config file; and two Debian packages of them.
+# Installation: the library, its translations and headers, a CMake package and a pkg-config file; and two Debian packages of them.
 
 include(CMakePackageConfigHelpers)
 
@@ -18,6 +18,10 @@ endforeach()
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/paycard_gui/common/paycard_export.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/paycard_gui/common
     COMPONENT development)
+
+install(FILES ${PAYCARD_TRANSLATIONS}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/paycard_gui/translations
+    COMPONENT runtime)
 
 install(EXPORT paycard_guiTargets
     NAMESPACE paycard_gui::

@@ -65,6 +65,8 @@ struct Options
                                      "ФУНКЦИЯ"};
     const QCommandLineOption gallery = {"gallery", "Нарисовать все окна в файлы PNG.", "КАТАЛОГ"};
     const QCommandLineOption fontScale = {"font-scale", "Во сколько раз увеличить шрифт.", "ЧИСЛО", "1"};
+    const QCommandLineOption language = {
+        "language", "Язык окон библиотеки, например en; само окно кассы остаётся русским.", "ЯЗЫК", "ru"};
     const QCommandLineOption help = {{"h", "help"}, "Показать эту справку."};
 };
 
@@ -82,6 +84,21 @@ QString loadSettings(SimulatedDriver &driver, const QCommandLineParser &parser, 
     }
     driver.replaceSettings(SimulatedDriver::sample(name), &reason);
     return reason;
+}
+
+bool installTranslator(const QString &file, const QString &directory)
+{
+    auto *translator = new QTranslator(qApp);
+    return translator->load(file, directory) && QCoreApplication::installTranslator(translator);
+}
+
+/// Makes the toolkit's words, the buttons of its boxes among them, and the library's those of the language. False
+/// when the library has none; it needs none for Russian. The toolkit's come in English when they are not there.
+bool speak(const QString &language)
+{
+    QLocale::setDefault(QLocale(language));
+    installTranslator("qt_" + language, QtCompat::translationsDirectory());
+    return language == "ru" || installTranslator("paycard_gui_" + language, PAYCARD_TRANSLATIONS);
 }
 
 bool scaleFont(const QString &factor)
@@ -133,20 +150,16 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QApplication application(argc, argv);
-    QLocale::setDefault(QLocale(QLocale::Russian, QLocale::Russia));
-    // The library's texts are Russian; this makes the toolkit's own so, the buttons of its boxes among them.
-    QTranslator translator;
-    if (translator.load("qt_ru", QtCompat::translationsDirectory())) {
-        QApplication::installTranslator(&translator);
-    }
-
     const Options options;
     QCommandLineParser parser;
     parser.setApplicationDescription("Учебная касса: вызывает окна платёжного драйвера без платёжного терминала.");
-    parser.addOptions(
-        {options.settings, options.sample, options.call, options.gallery, options.fontScale, options.help});
+    parser.addOptions({options.settings, options.sample, options.call, options.gallery, options.fontScale,
+                       options.language, options.help});
     if (!parser.parse(QApplication::arguments()) || !parser.positionalArguments().isEmpty()) {
         return fail(WrongUsage, "Неверные параметры, см. --help");
+    }
+    if (!speak(parser.value(options.language))) {
+        return fail(WrongUsage, QString("Нет перевода на язык «%1»").arg(parser.value(options.language)));
     }
     if (parser.isSet(options.help)) {
         // The toolkit's own words come in English when its translation is not installed.

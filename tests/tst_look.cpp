@@ -153,15 +153,23 @@ void LookTest::windows_data()
 {
     QTest::addColumn<double>("scale");
     QTest::addColumn<QSize>("screen");
-    QTest::newRow("100 %") << 1.0 << QSize(800, 600);
-    QTest::newRow("150 %") << 1.5 << QSize(1024, 768);
-    QTest::newRow("200 %") << 2.0 << QSize(1280, 1024);
+    QTest::addColumn<bool>("english");
+    QTest::newRow("100 %") << 1.0 << QSize(800, 600) << false;
+    QTest::newRow("150 %") << 1.5 << QSize(1024, 768) << false;
+    QTest::newRow("200 %") << 2.0 << QSize(1280, 1024) << false;
+    QTest::newRow("English") << 1.0 << QSize(800, 600) << true;
 }
 
 void LookTest::windows()
 {
     QFETCH(double, scale);
     QFETCH(QSize, screen);
+    QFETCH(bool, english);
+    QTranslator translator;
+    if (english) {
+        QVERIFY(translator.load("paycard_gui_en", PAYCARD_TRANSLATIONS));
+        QCoreApplication::installTranslator(&translator);
+    }
     QFont font = QApplication::font();
     font.setPointSizeF(FontSize * scale);
     QApplication::setFont(font);

@@ -2,7 +2,9 @@
 #include "simulateddriver.h"
 
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
+#include <QTimer>
 
 #include <algorithm>
 #include <climits>
@@ -19,6 +21,7 @@ static void initResources()
 namespace {
 
 const int JournalLimit = 10000;
+const int EventLoopTime = 5; // ms
 const char *const EmptyDocument = "<settings version=\"2\">\n</settings>\n";
 
 /// Codes of the driver's own failures.
@@ -106,9 +109,11 @@ QStringList SimulatedDriver::faults()
             "нет текста",
             "текст всё длиннее",
             "длина — наибольшее целое",
+            "текст пропадает при повторном чтении",
             "текст без завершающего нуля",
             "исключение std::runtime_error",
-            "исключение типа int"};
+            "исключение типа int",
+            "обрабатывает события"};
 }
 
 QStringList SimulatedDriver::samples()
@@ -191,6 +196,18 @@ void SimulatedDriver::writeDown(const char *name, const QString &arguments, cons
     }
 }
 
+void SimulatedDriver::runEvents() const
+{
+    QEventLoop loop;
+    QTimer::singleShot(EventLoopTime, &loop, &QEventLoop::quit);
+    QTimer::singleShot(0, &loop, [this] {
+        if (onEvents) {
+            onEvents();
+        }
+    });
+    loop.exec();
+}
+
 // What a fault writes makes sense for texts only; the other operations give its result.
 std::optional<int> SimulatedDriver::playFailure(const char *name, const QString &arguments, wchar_t *buffer, int size)
 {
@@ -199,6 +216,10 @@ std::optional<int> SimulatedDriver::playFailure(const char *name, const QString 
     }
     // A copy, because the host may clear the failures when it hears of the call.
     const Failure failure = inForce.value(name);
+    if (failure.fault == Fault::RunsEvents) {
+        runEvents();
+        return std::nullopt;
+    }
     writeDown(name, arguments,
               QStringLiteral("сбой «%1»: %2").arg(faults().at(static_cast<int>(failure.fault)), describe(failure)));
     switch (failure.fault) {
@@ -213,6 +234,9 @@ std::optional<int> SimulatedDriver::playFailure(const char *name, const QString 
         return size + 1;
     case Fault::LargestInt:
         return INT_MAX;
+    case Fault::GoneAtSecond:
+        vanishing = !vanishing;
+        return vanishing ? size + 1 : 0;
     case Fault::Unterminated:
         if (buffer) {
             std::fill_n(buffer, std::max(size, 0), L'Ж');
@@ -222,6 +246,8 @@ std::optional<int> SimulatedDriver::playFailure(const char *name, const QString 
         throw std::runtime_error(failure.text.toStdString());
     case Fault::ThrowOther:
         throw failure.code;
+    case Fault::RunsEvents:
+        break;
     }
     return std::nullopt;
 }

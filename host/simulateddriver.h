@@ -20,9 +20,11 @@ enum class Fault {
     NoText,        ///< gives 0 and writes nothing
     EverLonger,    ///< reports one character more than the buffer holds, each time
     LargestInt,    ///< reports the largest int as the length
+    GoneAtSecond,  ///< reports a text that does not fit, and none when it is asked again
     Unterminated,  ///< fills the buffer to its end without a closing zero
     ThrowStandard, ///< throws std::runtime_error with the text
-    ThrowOther     ///< throws an int, the code
+    ThrowOther,    ///< throws an int, the code
+    RunsEvents     ///< answers as it should, after an event loop of its own
 };
 
 /// A fault together with what the driver says of it.
@@ -101,6 +103,8 @@ public:
     void clearJournal() { calls.clear(); }
     /// Called after each call has been written down.
     std::function<void()> onCall;
+    /// Called in the event loop that RunsEvents runs.
+    std::function<void()> onEvents;
 
     /// 1 or 0 as the library last said, -1 before it said anything.
     int propertiesShown() const { return shownFlag; }
@@ -144,6 +148,7 @@ private:
 
     // The shapes of the operations: each plays the failure in force or answers, and writes the call down.
     std::optional<int> playFailure(const char *name, const QString &arguments, wchar_t *buffer = nullptr, int size = 0);
+    void runEvents() const;
     int giveText(const char *name, const QString &subject, const QString &text, const QString &shown, wchar_t *buffer,
                  int size);
     int giveText(const char *name, const QString &text, wchar_t *buffer, int size);
@@ -164,6 +169,8 @@ private:
     Failure last;
     QList<DriverCall> calls;
     int shownFlag = -1;
+    /// The text that GoneAtSecond has promised last is still to be given.
+    bool vanishing = false;
 };
 
 #endif

@@ -18,6 +18,8 @@ private slots:
     void errors();
     void failures_data();
     void failures();
+    void intrusions_data();
+    void intrusions();
     void parentGoes();
     void hostQuits();
     void entryWithinEntry();
@@ -135,8 +137,8 @@ void BridgeTest::failures()
 {
     QFETCH(int, entry);
     QFETCH(QString, operation);
-    for (const Fault fault : {Fault::Refuse, Fault::NoText, Fault::EverLonger, Fault::LargestInt, Fault::Unterminated,
-                              Fault::ThrowStandard, Fault::ThrowOther}) {
+    for (const Fault fault : {Fault::Refuse, Fault::NoText, Fault::EverLonger, Fault::LargestInt, Fault::GoneAtSecond,
+                              Fault::Unterminated, Fault::ThrowStandard, Fault::ThrowOther, Fault::RunsEvents}) {
         Register shop = shopWithOperator();
         shop.driver.operation.operatorIndex = 0;
         shop.driver.operation.sum = 100;
@@ -153,6 +155,12 @@ void BridgeTest::failures()
         if (!reached && shop.driver.failures().size() == 1) {
             QVERIFY2(result >= 1, "nothing failed");
         }
+        // A document, or the list of protocols, that did not come whole must not be overwritten.
+        if (entry == 2 && operation.startsWith("getSetting") && operation != "getSettingValue" &&
+            (fault == Fault::EverLonger || fault == Fault::LargestInt || fault == Fault::GoneAtSecond)) {
+            QCOMPARE(result, -1);
+            QCOMPARE(shop.calls("setSettings"), 0);
+        }
         // The properties show a standard exception of the write and stay open.
         if (reached && throws && !(operation == "setSettings" && fault == Fault::ThrowStandard) &&
             EntryPoints[entry].call != ShowProperties) {
@@ -163,6 +171,71 @@ void BridgeTest::failures()
             QCOMPARE(shop.calls("setPropertiesShown"), 2);
         }
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+}
+
+void BridgeTest::intrusions_data()
+{
+    failures_data();
+}
+
+// What can happen while a driver runs an event loop of its own in one of its operations.
+void BridgeTest::intrusions()
+{
+    QFETCH(int, entry);
+    QFETCH(QString, operation);
+    QWidget *parent = nullptr;
+    const auto onWindow = [](const std::function<void(QWidget *)> &act) {
+        return [=] {
+            if (QWidget *window = QApplication::activeModalWidget()) {
+                act(window);
+            }
+        };
+    };
+    const struct
+    {
+        std::function<void()> happens;
+        bool deletesParent;
+    } rows[] = {
+        {[&] { delete parent; }, true},
+        {onWindow([](QWidget *window) { QTest::keyClick(window, Qt::Key_Return); }), false},
+        {onWindow([](QWidget *window) { window->close(); }), false},
+        {[] { QApplication::closeAllWindows(); }, false},
+    };
+    for (const auto &row : rows) {
+        for (const bool closing : {false, true}) {
+            parent = new QWidget;
+            const QPointer<QWidget> alive(parent);
+            Register shop = shopWithOperator();
+            shop.driver.operation.operatorIndex = 0;
+            shop.driver.operation.sum = 100;
+            if (operation.startsWith("getResult") || operation.startsWith("getError")) {
+                shop.driver.failOperation("setOperatorIndex", {Fault::Refuse, 6, "Отказ", QString()});
+                shop.driver.failOperation("setSettings", {Fault::Refuse, 6, "Отказ", "деталь"});
+            }
+            shop.driver.failOperation(operation, {Fault::RunsEvents, 0, QString(), QString()});
+            int happened = 0;
+            shop.driver.onEvents = [&] {
+                if (happened++ == 0) {
+                    row.happens();
+                }
+            };
+            const auto leave = [&](QWidget *window) { closing ? void(window->close()) : agree(window); };
+            const int result = shop.run(EntryPoints[entry].call, {leave, leave, leave}, parent);
+            QVERIFY(result >= -1 && result <= EntryPoints[entry].lastResult);
+            if (row.deletesParent && happened > 0) {
+                QVERIFY(!alive);
+                QVERIFY2(result == 0 || (closing && result == -1), qPrintable(QString::number(result)));
+            }
+            if (entry == 2) {
+                QCOMPARE(shop.driver.propertiesShown(), 0);
+                QCOMPARE(shop.calls("setPropertiesShown"), 2);
+                // Told once, whatever is pressed meanwhile; a refusal leaves the window open for more.
+                QVERIFY(shop.calls("setSettings") <= 1 || shop.driver.failures().contains("setSettings"));
+            }
+            delete alive;
+            QVERIFY(QApplication::topLevelWidgets().isEmpty());
+        }
     }
 }
 

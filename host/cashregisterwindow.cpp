@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "cashregisterwindow.h"
 
+#include "common/inputs.h"
 #include "librarypaycard.h"
 #include "settingsdocument.h"
 #include "simulateddriver.h"
@@ -40,6 +41,7 @@ CashRegisterWindow::CashRegisterWindow(SimulatedDriver &hostDriver, const Librar
     : QMainWindow(parent), ui(std::make_unique<Ui::CashRegisterWindow>()), driver(hostDriver), library(hostLibrary)
 {
     ui->setupUi(this);
+    prepareInputs(*this);
     arrange();
     fillChoices();
     showSettings();

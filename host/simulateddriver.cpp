@@ -167,7 +167,7 @@ bool SimulatedDriver::replaceSettings(const QString &xml, QString *reason)
 Failure SimulatedDriver::replaceDocument(const QString &xml)
 {
     const Document replacement(xml);
-    if (!replacement.content.isValid()) {
+    if (!replacement.content.isValid() && xml != document.text) {
         return refusal(MalformedSettings, QStringLiteral("Документ настроек не читается"),
                        replacement.content.errorPlace());
     }

@@ -90,6 +90,8 @@ public:
     /// is refused.
     QString settings() const { return document.text; }
     bool replaceSettings(const QString &xml, QString *reason);
+    /// Puts any text in its place, such as one that is no document. setSettings() takes that very text back.
+    void damageSettings(const QString &text) { document = Document(text); }
 
     Operation operation;
 

@@ -4,7 +4,9 @@
 #include "register.h"
 
 #include <QApplication>
+#include <QResource>
 
+#include <clocale>
 #include <thread>
 
 /// What the library does about the application object; begins without one.
@@ -47,6 +49,15 @@ void ApplicationTest::created()
     QVERIFY(!QCoreApplication::instance());
 
     Register shop;
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    qputenv("DISPLAY", ":77");
+    for (const char *unusable : {"xcb", "nosuch", ""}) {
+        qputenv("QT_QPA_PLATFORM", unusable);
+        QCOMPARE(ConfirmPayment(&shop.driver, nullptr), -1);
+        QVERIFY(!QCoreApplication::instance());
+    }
+    qputenv("QT_QPA_PLATFORM", platform);
+    qputenv("LC_ALL", "C.UTF-8");
     const auto closeTheQuestion = [] {
         QWidget *question = QApplication::activeModalWidget();
         QVERIFY(question);
@@ -57,6 +68,7 @@ void ApplicationTest::created()
         QTimer::singleShot(0, qApp, closeTheQuestion);
     };
     QCOMPARE(ConfirmPayment(&shop.driver, nullptr), 0);
+    QCOMPARE(std::setlocale(LC_ALL, nullptr), "C"); // the host's numbers
     QCoreApplication *first = QCoreApplication::instance();
     QVERIFY(qobject_cast<QApplication *>(first));
     QCOMPARE(app(), first);
@@ -91,7 +103,9 @@ void ApplicationTest::directories()
         QCOMPARE(cancel(), QString("Отмена"));
     }
 
-    QVERIFY(QFile::exists(":/images/orma_logo_small.bmp") && QFile::exists(":/images/icon_info.png"));
+    // The old toolkit's own loader knows no compression but zlib.
+    QCOMPARE(QResource(":/images/orma_logo_small.bmp").compressionAlgorithm(), QResource::ZlibCompression);
+    QCOMPARE(QResource(":/images/icon_info.png").compressionAlgorithm(), QResource::NoCompression);
     QCOMPARE(qCleanupResources_paycard_gui(), 1);
     QVERIFY(!QFile::exists(":/images/icon_info.png"));
     QCOMPARE(qInitResources_paycard_gui(), 1);

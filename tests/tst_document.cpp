@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/qnoxsettings.h"
 
+#include <QDomDocument>
+#include <QRandomGenerator>
 #include <QtTest>
 
 class DocumentTest : public QObject
@@ -10,6 +12,7 @@ class DocumentTest : public QObject
 private slots:
     void textForm();
     void numbers();
+    void likeTheDom();
     void roundTrip_data();
     void roundTrip();
     void reading_data();
@@ -52,6 +55,42 @@ void DocumentTest::numbers()
         settings.set("n", row.first);
         // The document does not record types.
         QCOMPARE(QNoxSettings(settings.toXml(0)).get("n"), QVariant(row.second));
+    }
+}
+
+// The text is to the letter that of the toolkit's DOM, over generated documents.
+void DocumentTest::likeTheDom()
+{
+    QRandomGenerator random(2026);
+    const QString characters = QString::fromUtf8("ab]]]>>&<\"'\r\n\t Жщ€\x7f😀#;x");
+    const auto text = [&] {
+        QString result;
+        for (int length = random.bounded(12); length > 0; --length) {
+            // Pairs stay whole, halves are not written.
+            const int at = random.bounded(static_cast<int>(characters.size()));
+            result += characters.mid(at - characters.at(at).isLowSurrogate(), 1 + characters.at(at).isSurrogate());
+        }
+        return result;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        QMap<QString, QString> values;
+        QNoxSettings settings;
+        for (int entries = random.bounded(4); entries > 0; --entries) {
+            const QString name = text();
+            values[name] = text();
+            settings.set(name, values[name]);
+        }
+        QDomDocument dom;
+        QDomElement root = dom.createElement("settings");
+        root.setAttribute("version", round);
+        dom.appendChild(root);
+        for (auto value = values.cbegin(); value != values.cend(); ++value) {
+            QDomElement element = dom.createElement("value");
+            element.setAttribute("name", value.key());
+            element.appendChild(dom.createTextNode(value.value()));
+            root.appendChild(element);
+        }
+        QCOMPARE(settings.toXml(round == 0 ? 0 : round), dom.toString(4));
     }
 }
 

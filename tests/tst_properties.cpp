@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "register.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTextEdit>
 
 class PropertiesTest : public QObject
@@ -29,6 +33,11 @@ private slots:
     void operatorDeletion();
     void operatorRecord();
     void operatorRules();
+    void typedNumbers_data();
+    void typedNumbers();
+    void oddValues();
+    void unreadable();
+    void longTexts();
     void cyberPlat();
     void cyberPlatRules();
     void arcus2();
@@ -317,7 +326,22 @@ void PropertiesTest::slip()
     Register shop({{"Slip", document({{"HideCard", false}, {"Width", 32}})}});
     const auto look = [](QWidget *window) {
         QVERIFY(!enabled(window, "checkHideCard"));
-        QVERIFY(child<QTextEdit>(window, "teHeader")->alignment().testFlag(Qt::AlignHCenter));
+        QTextEdit *edit = child<QTextEdit>(window, "teHeader");
+        QVERIFY(edit->alignment().testFlag(Qt::AlignHCenter));
+        const auto isCentred = [=] {
+            const QTextBlock last = edit->document()->lastBlock();
+            const QRectF line = edit->document()->documentLayout()->blockBoundingRect(last);
+            return last.layout()->lineAt(0).naturalTextRect().center().x() > line.width() / 2 - 9;
+        };
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClicks(edit, "a");
+        QVERIFY(isCentred());
+        QApplication::clipboard()->setText("b\nc");
+        edit->selectAll();
+        edit->paste();
+        QVERIFY(isCentred());
+        edit->clear();
     };
     QCOMPARE(shop.run(ShowProperties, {press("pbtnSlip"), fill(fields), press("pbtnCancel"), press("pbtnOk")}), 1);
     QVERIFY(!nested(shop, "Slip").get("Header").isValid());
@@ -341,11 +365,20 @@ void PropertiesTest::operatorList()
     };
     const auto rename = [](const QString &name) {
         return [=](QWidget *window) {
-            enter(window, "leName", name);
+            // Pasted with the line's end, as from a table.
+            QApplication::clipboard()->setText(name + "\r\n");
+            QLineEdit *edit = child<QLineEdit>(window, "leName");
+            edit->selectAll();
+            edit->paste();
+            QCOMPARE(edit->text(), name + ' ');
+            edit->backspace();
             enter(window, "leCode", "9");
         };
     };
     const auto deleteSecond = [](QWidget *window) {
+        // The one that was added is current.
+        QListWidget *list = child<QListWidget>(window, "lwOperators");
+        QVERIFY(list->currentRow() == 3 && list->currentItem()->isSelected());
         child<QListWidget>(window, "lwOperators")->setCurrentRow(1);
         ModalScript::press(window, "pbtnDelete");
     };
@@ -450,6 +483,174 @@ void PropertiesTest::operatorRules()
     shop.run(ShowProperties, {press("pbtnOperators"), edit, rules, press("pbtnOk"), press("pbtnOk"), press("pbtnOk")});
     QVERIFY(shop.completed);
     QCOMPARE(nested(shop, "Operator0").get("MinSum").toString(), QString("100"));
+}
+
+void PropertiesTest::typedNumbers_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    for (const char *name : {"C", "en_US", "ru_RU", "de_DE"}) {
+        QTest::newRow(name) << QLocale(name);
+    }
+}
+
+// A point and a comma are the decimal separator on every keyboard; no digit moves unnoticed.
+void PropertiesTest::typedNumbers()
+{
+    QFETCH(QLocale, locale);
+    const struct
+    {
+        const char *entered;
+        double amount; ///< from 7
+        int typedCode; ///< from 7
+        int pastedCode;
+        double pasted; ///< from 7
+    } rows[] = {
+        {"10.55", 10.55, 10, 7, 10.55},    {"10,55", 10.55, 10, 7, 10.55}, {"1 000,50", 1000.5, 1000, 7, 1000.5},
+        {"0.5", 0.5, 0, 7, 0.5},           {"10.555", 10.55, 10, 7, 7},    {"1,000.5", 1, 1, 7, 7},
+        {"1.2.3", 1.23, 1, 7, 7},          {"10 55", 1055, 1055, 7, 7},    {"1e3", 13, 13, 7, 7},
+        {"1 000", 1000, 1000, 1000, 1000}, {" 42\n", 42, 42, 42, 42},
+    };
+    const auto restore = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
+    QLocale::setDefault(locale);
+    const auto put = [](QWidget *spin, const QString &text, bool paste) {
+        qobject_cast<QAbstractSpinBox *>(spin)->selectAll();
+        if (paste) {
+            QApplication::clipboard()->setText(text);
+            QTest::keyClick(spin, Qt::Key_V, Qt::ControlModifier);
+        } else {
+            QTest::keyClicks(spin, text.trimmed());
+        }
+        qobject_cast<QAbstractSpinBox *>(spin)->interpretText();
+    };
+    const auto enterAll = [&](QWidget *window) {
+        for (const auto &row : rows) {
+            for (const bool paste : {false, true}) {
+                auto *amount = child<QDoubleSpinBox>(window, "spinMinSum");
+                amount->setValue(7);
+                put(amount, row.entered, paste);
+                QVERIFY2(qFuzzyCompare(amount->value(), paste ? row.pasted : row.amount), row.entered);
+                QCOMPARE(amount->text(), locale.toString(amount->value(), 'f', 2).remove(locale.groupSeparator()));
+            }
+        }
+    };
+    const auto enterWhole = [&](QWidget *window) {
+        for (const auto &row : rows) {
+            for (const bool paste : {false, true}) {
+                auto *code = child<QSpinBox>(window, "spinPointCode");
+                code->setValue(7);
+                put(code, row.entered, paste);
+                QVERIFY2(code->value() == (paste ? row.pastedCode : row.typedCode), row.entered);
+            }
+        }
+    };
+    Register shop;
+    shop.run(ShowProperties,
+             {press("pbtnOperators"), press("pbtnAdd"), enterAll, press("pbtnCancel"), key(Qt::Key_Escape),
+              press("pbtnSettingsButton"), enterWhole, press("pbtnCancel"), press("pbtnCancel")});
+    QVERIFY(shop.completed);
+}
+
+// Stored values that a form cannot show as they are, and what is stored after OK.
+void PropertiesTest::oddValues()
+{
+    const QString name = QString("щ").repeated(40000) + "\nконец";
+    const struct
+    {
+        const char *key;
+        QString stored, saved;
+    } rows[] = {
+        {"MinSum", "nan", "0"},
+        {"MaxSum", "inf", "0"},
+        {"Comission", "1e300", "10000000000"},
+        {"Comission", "-5", "0"},
+        {"Name", name, name},
+        {"Timeout", "4294967301", "99"},
+        {"Timeout", "-9e99", "0"},
+        {"Timeout", "text", "0"},
+        {"DealerCode", "2147483648", "999999999"},
+        {"KeyLoadPwd", name, name},
+        {"ProxyPort", "99999999999999999999", "65535"},
+    };
+    for (const auto &row : rows) {
+        Values record = {{"Name", "A"}, {"Code", "1"}};
+        record.emplace_back(row.key, row.stored);
+        Register shop({{"KeyLoadPwd", "x"}, {"Operators", 1}, {"Operator0", document(record)}, {row.key, row.stored}});
+        const auto select = [](QWidget *window) { child<QListWidget>(window, "lwOperators")->setCurrentRow(0); };
+        QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), press("pbtnOk"), press("pbtnOperators"), select,
+                                           press("pbtnEdit"), press("pbtnOk"), press("pbtnOk"), press("pbtnOk")}),
+                 1);
+        QVERIFY(shop.completed);
+        const QString saved = nested(shop, "Operator0").get(row.key).toString();
+        QVERIFY2(saved == row.saved || shop.stored(row.key).toString() == row.saved, row.key);
+    }
+}
+
+// What cannot be read is announced, and Cancel gives it back to the letter.
+void PropertiesTest::unreadable()
+{
+    for (const char *text :
+         {"<settings>\x1</settings>", "<settings>a & b</settings>", " <?xml version='1.0'?><r/>", "\n"}) {
+        for (const int result : {0, 1}) {
+            Register shop;
+            shop.driver.damageSettings(text);
+            const auto look = [](QWidget *window) {
+                const QString notice = child<QLabel>(window, "lbError")->text();
+                QVERIFY(notice.contains("не читаются") && enabled(window, "pbtnOk"));
+                enter(window, "lePathACDialog", "/");
+                QCOMPARE(child<QLabel>(window, "lbError")->text(), notice);
+            };
+            QCOMPARE(shop.run(ShowProperties, {look, press(result ? "pbtnOk" : "pbtnCancel")}), result);
+            QCOMPARE(shop.driver.settings() == QString(text), result == 0);
+            QCOMPARE(shop.stored("PathAC").toString(), QString(result ? "/" : ""));
+        }
+    }
+}
+
+// At 800 x 600 every button can be reached, whatever the driver sends, and nothing keeps the window busy.
+void PropertiesTest::longTexts()
+{
+    const auto fits = [](QWidget *window) {
+        QVERIFY2(window->width() <= 800 && window->height() <= 600, window->metaObject()->className());
+        const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons) {
+            const QRect place(button->mapTo(window, QPoint()), button->size());
+            QVERIFY2(!button->isVisible() || window->rect().contains(place), qPrintable(button->objectName()));
+        }
+    };
+    for (const QString &unit : {QString("W"), QString("слово "), QString("строка\n"), QString("<b>")}) {
+        for (const int length : {300, 3000, 1000000}) {
+            const QString text = unit.repeated(length / static_cast<int>(unit.size()));
+            Register shop(
+                {{"Slip", document({{"Header", text}})}, {"Operators", 1}, {"Operator0", document({{"Name", text}})}});
+            shop.driver.operation.operatorIndex = 0;
+            shop.driver.operation.code = 9;
+            shop.driver.operation.phone = text;
+            shop.driver.operation.account = text;
+            shop.driver.operation.sum = 1e308;
+            shop.driver.failOperation("setSettings", {Fault::Refuse, 7, text, text});
+            const auto error = [&](QWidget *window) {
+                QLabel *label = child<QLabel>(window, "lbError");
+                const QString whole = QString("[7] %1 (%1)").arg(text);
+                const bool read = length == 300 && unit != "строка\n";
+                QCOMPARE(label->text() == whole && label->toolTip().isEmpty(), read && whole.size() <= 500);
+                QVERIFY(length != 3000 || label->toolTip().contains(text.left(2000).toHtmlEscaped()));
+                fits(window);
+                shop.driver.clearFailures();
+            };
+            QElapsedTimer timer;
+            timer.start();
+            shop.run(ShowProperties, {press("pbtnSlip"), fits, press("pbtnOk"), press("pbtnOperators"), fits,
+                                      press("pbtnOk"), press("pbtnOk"), error, press("pbtnOk")});
+            QVERIFY(shop.completed);
+            QCOMPARE(nested(shop, "Slip").get("Header").toString(), text);
+            QCOMPARE(nested(shop, "Operator0").get("Name").toString(), text);
+            for (const EntryPoint call : {ConfirmPayment, SelectOperator, CommissionAddition}) {
+                shop.run(call, {fits, key(Qt::Key_Escape)});
+                QVERIFY(shop.completed);
+            }
+            QVERIFY2(timer.elapsed() < 20000, qPrintable(QString("%1 ms").arg(timer.elapsed())));
+        }
+    }
 }
 
 void PropertiesTest::cyberPlat()

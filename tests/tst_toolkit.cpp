@@ -153,6 +153,16 @@ void ToolkitTest::inputs()
     QCOMPARE(number, 1234.57);
     play(false, getDouble);
     QVERIFY(!ok && number == 0.0);
+    for (const char *entered : {"7.25", "7,25", "0"}) {
+        ModalScript script({[&](QWidget *window) {
+            QDoubleSpinBox *spin = window->findChild<QDoubleSpinBox *>();
+            spin->selectAll();
+            QTest::keyClicks(spin, entered);
+            qobject_cast<QDialog *>(window)->accept();
+        }});
+        script.run(getDouble);
+        QVERIFY(ok && number == (*entered == '0' ? 0.0 : 7.25));
+    }
 }
 
 void ToolkitTest::files()

@@ -55,6 +55,20 @@ void UtilsTest::comboBoxes()
     QVERIFY(QComboGetSelection(&combo).isNull());
     QVERIFY(cmbDataStr(&combo).isEmpty() && cmbDataStr(nullptr).isEmpty());
 
+    combo.clear();
+    combo.addItem("no data");
+    combo.addItem("empty", "");
+    combo.addItem("true", true);
+    combo.addItem("double", 2.7);
+    combo.addItem("enumeration", QVariant::fromValue(Qt::DashLine));
+    QComboSelect(&combo, QString(""));
+    QList<int> numbers;
+    for (int i = combo.currentIndex(); i < combo.count(); ++i) {
+        combo.setCurrentIndex(i);
+        numbers += cmbData(&combo);
+    }
+    QCOMPARE(numbers, (QList<int>{0, 1, 3, Qt::DashLine}));
+
     strToComboBox(&combo, "66666666666:Тест %1;", true);
     QCOMPARE(combo.itemText(0), QString("66666666666 - Тест %1"));
     QCOMPARE(cmbData(&combo), 0); // beyond an integer
@@ -180,7 +194,8 @@ void UtilsTest::settingQueries()
 
 void UtilsTest::deviceNames()
 {
-    const auto name = [](const char *port) {
+    QString asked;
+    const auto name = [&](const char *port) {
         Register shop({{"Model", 1},
                        {"Port", port},
                        {"BaudRate", 115200},
@@ -188,11 +203,18 @@ void UtilsTest::deviceNames()
                        {"IPAddress", "10.0.0.7"},
                        {"IPPort", 5000},
                        {"MACAddress", "00:11:22"}});
-        return defaultDeviceName(&shop.driver);
+        const QString result = defaultDeviceName(&shop.driver);
+        asked.clear();
+        for (const DriverCall &call : shop.driver.journal()) {
+            asked += call.operation == "getSettingValue" ? call.arguments.section(QString("»"), 0, 0) : QString();
+        }
+        return result;
     };
     QCOMPARE(name("1"), QString("Учебный терминал (COM1 115200)"));
     QCOMPARE(name("TTY"), QString("Учебный терминал (USB%1 115200)"));
+    QCOMPARE(asked, QString("«Model«Port«TTYSuffix«BaudRate"));
     QCOMPARE(name("TCPIP"), QString("Учебный терминал (10.0.0.7:5000)"));
+    QCOMPARE(asked, QString("«Model«Port«IPAddress«IPPort"));
     QCOMPARE(name("UDPIP"), QString("Учебный терминал (10.0.0.7:5000)"));
     QCOMPARE(name("BT"), QString("Учебный терминал (00:11:22)"));
     QCOMPARE(name("USB"), QString("Учебный терминал (USB:терминал)"));

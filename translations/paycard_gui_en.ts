@@ -620,6 +620,10 @@ commission:</translation>
         <source>Каталог обмена с АС не существует</source>
         <translation>The exchange directory does not exist</translation>
     </message>
+    <message>
+        <source>Настройки драйвера не читаются. ОК заменит их, Отмена оставит как есть.</source>
+        <translation>The driver's settings cannot be read. OK replaces them, Cancel leaves them as they are.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -750,6 +754,10 @@ commission:</translation>
     <message>
         <source>&lt;br&gt;Номер счета: %1</source>
         <translation>&lt;br&gt;Account number: %1</translation>
+    </message>
+    <message>
+        <source>Драйвер не дал текст целиком</source>
+        <translation>The driver has not given the whole text</translation>
     </message>
 </context>
 <context>

@@ -40,10 +40,12 @@ bool removeBlanks(QString &text, int &position)
                 return false;
             }
             grouped = true;
+            digits = 0;
             text.remove(i, 1);
             position -= i < position ? 1 : 0;
+        } else {
+            digits = text.at(i).isDigit() ? digits + 1 : 0;
         }
-        digits = text.at(i).isDigit() ? digits + 1 : 0;
     }
     return !grouped || digits <= 3;
 }

@@ -4,35 +4,53 @@
 #include "common/qtcompat.h"
 #include "common/settingsreader.h"
 
-#include <QDomDocument>
-
-#include <algorithm>
-
 namespace {
+
+/// How the character is written in a value, or in a name, which is an attribute; null for as it is.
+const char *escapeOf(QChar c, bool inName)
+{
+    switch (c.unicode()) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '\r':
+        return "&#xd;";
+    case '"':
+        return inName ? "&quot;" : nullptr;
+    case '\n':
+        return inName ? "&#xa;" : nullptr;
+    case '\t':
+        return inName ? "&#x9;" : nullptr;
+    default:
+        return nullptr;
+    }
+}
 
 bool isForbiddenInXml(QChar c)
 {
     const ushort code = c.unicode();
-    return (code < 0x20 && code != 0x9 && code != 0xA && code != 0xD) || c.isSurrogate() || code >= 0xFFFE;
+    return (code < 0x20 && code != 0x9 && code != 0xA && code != 0xD) || (code >= 0xD800 && code < 0xE000) ||
+           code >= 0xFFFE;
 }
 
-/// The text without the characters that XML 1.0 cannot carry: one of them would make the document unreadable.
-QString withoutForbidden(const QString &text)
+/// Appends the text escaped. Characters that XML 1.0 cannot carry are left out: one of them would make the document
+/// unreadable.
+void append(QString &xml, const QString &text, bool inName)
 {
-    if (std::none_of(text.begin(), text.end(), isForbiddenInXml)) {
-        return text;
-    }
-    QString kept;
-    kept.reserve(text.size());
-    for (const QChar *c = text.constBegin(); c != text.constEnd(); ++c) {
-        if (c->isHighSurrogate() && c + 1 != text.constEnd() && (c + 1)->isLowSurrogate()) {
-            kept += *c++;
-            kept += *c;
-        } else if (!isForbiddenInXml(*c)) {
-            kept += *c;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (const char *escape = escapeOf(c, inName)) {
+            xml += QLatin1String(escape);
+        } else if (c == QLatin1Char('>') && xml.endsWith(QLatin1String("]]"))) {
+            xml += QLatin1String("&gt;");
+        } else if (c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
+            xml += c;
+            xml += text.at(++i);
+        } else if (!isForbiddenInXml(c)) {
+            xml += c;
         }
     }
-    return kept;
 }
 
 QString toText(const QVariant &value)
@@ -67,20 +85,27 @@ void QNoxSettings::remove(const QString &name)
     entries.remove(name);
 }
 
+// To the letter what the toolkit's DOM makes of it, which however takes a time that grows with the square of what
+// there is to escape in a value, and breaks pairs of surrogates in its oldest release.
 QString QNoxSettings::toXml(int documentVersion) const
 {
-    QDomDocument document;
-    QDomElement root = document.createElement(SettingsXml::SettingsTag);
-    root.setAttribute(SettingsXml::VersionAttribute,
-                      static_cast<qlonglong>(documentVersion == 0 ? version : documentVersion));
-    document.appendChild(root);
-    for (QMap<QString, QVariant>::const_iterator entry = entries.begin(); entry != entries.end(); ++entry) {
-        QDomElement value = document.createElement(SettingsXml::ValueTag);
-        value.setAttribute(SettingsXml::NameAttribute, withoutForbidden(entry.key()));
-        value.appendChild(document.createTextNode(withoutForbidden(toText(entry.value()))));
-        root.appendChild(value);
+    QString xml = QString::fromLatin1("<%1 %2=\"%3\"")
+                      .arg(SettingsXml::SettingsTag, SettingsXml::VersionAttribute,
+                           QString::number(documentVersion == 0 ? version : documentVersion));
+    if (entries.isEmpty()) {
+        return xml + QLatin1String("/>\n");
     }
-    return document.toString(4);
+    xml += QLatin1String(">\n");
+    const QString start = QString::fromLatin1("    <%1 %2=\"").arg(SettingsXml::ValueTag, SettingsXml::NameAttribute);
+    const QString end = QString::fromLatin1("</%1>\n").arg(SettingsXml::ValueTag);
+    for (QMap<QString, QVariant>::const_iterator entry = entries.begin(); entry != entries.end(); ++entry) {
+        xml += start;
+        append(xml, entry.key(), true);
+        xml += QLatin1String("\">");
+        append(xml, toText(entry.value()), false);
+        xml += end;
+    }
+    return xml + QString::fromLatin1("</%1>\n").arg(SettingsXml::SettingsTag);
 }
 
 void QNoxSettings::fromXml(const QString &xml)

@@ -234,6 +234,19 @@ void ToolkitTest::about()
     ModalScript script({press("OK")});
     QCOMPARE(script.run([&] { return own.exec(); }), static_cast<int>(QDialog::Accepted));
 
+    // At 800 x 600 a long name scrolls, and the button does not.
+    const QString name = QString("слово ").repeated(83);
+    DialogAbout large(name, name, nullptr);
+    ModalScript look({[&](QWidget *window) {
+                          QCOMPARE(child<QLabel>(window, "label_driver")->text().left(498), name);
+                          window->resize(window->width(), 600);
+                          QCOMPARE(window->height(), 600);
+                          const QWidget *box = child<QWidget>(window, "bbox");
+                          QVERIFY(box->mapTo(window, box->rect().bottomRight()).y() < 600);
+                      },
+                      press("OK")});
+    QCOMPARE(look.run([&] { return large.exec(); }), static_cast<int>(QDialog::Accepted));
+
     DialogAbout other(QString(), "1.0", "Модуль", QString(), nullptr);
     QCOMPARE(child<QLabel>(&other, "label_driver")->text(), QString());
     QCOMPARE(child<QLabel>(&other, "label_gui")->text(), QString("Модуль"));

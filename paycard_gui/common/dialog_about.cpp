@@ -77,10 +77,7 @@ DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion
     setLicenseInfo();
 }
 
-DialogAbout::~DialogAbout()
-{
-    delete ui;
-}
+DialogAbout::~DialogAbout() = default;
 
 void DialogAbout::setDriverName(const QString &name, const QString &version)
 {

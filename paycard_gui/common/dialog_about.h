@@ -5,6 +5,8 @@
 #include "common/nohelpbuttondialogs.h"
 #include "common/paycard_export.h"
 
+#include <memory>
+
 class Ui_DialogAbout;
 
 /// About the driver, this library and the outside libraries that the driver family uses.
@@ -33,7 +35,7 @@ private:
     void setPictures();
     void setLicenseInfo();
 
-    Ui_DialogAbout *ui;
+    std::unique_ptr<Ui_DialogAbout> ui;
 };
 
 #endif

@@ -5,7 +5,8 @@
 class QWidget;
 
 /// Makes the window as large as its contents need it to be, at least. The toolkit does not see to the height of
-/// wrapped texts: not once a window is shown, and with its oldest release never.
+/// wrapped texts: not once a window is shown, and with its oldest release never. What a scroll area of the window
+/// hides is shown as far as the screen has room for it.
 void growToContents(QWidget &window);
 
 #endif

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStyleOptionComboBox>
 #include <QTextEdit>
 #include <QToolButton>
@@ -66,9 +67,20 @@ QString accessibleName(QWidget *widget)
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
 }
 
+/// What the widget has to be within: the contents of a scroll area, or its window.
+QWidget *frameOf(const QWidget *widget)
+{
+    QWidget *frame = widget->parentWidget();
+    while (!frame->isWindow() &&
+           !(frame->parentWidget() && isOneOf<QScrollArea>(frame->parentWidget()->parentWidget()))) {
+        frame = frame->parentWidget();
+    }
+    return frame;
+}
+
 QRect placeOf(const QWidget *widget)
 {
-    return QRect(widget->mapTo(widget->window(), QPoint()), widget->size());
+    return QRect(widget->mapTo(frameOf(widget), QPoint()), widget->size());
 }
 
 /// The lists of the driver's own texts are as wide as is reasonable, not as those texts.
@@ -79,7 +91,7 @@ bool showsDriverTexts(const QWidget *widget)
 
 bool isClipped(const QWidget *widget)
 {
-    if (!widget->window()->rect().contains(placeOf(widget))) {
+    if (!frameOf(widget)->rect().contains(placeOf(widget))) {
         return true;
     }
     if (const QComboBox *combo = qobject_cast<const QComboBox *>(widget)) {
@@ -136,7 +148,8 @@ QStringList tabProblems(const QWidget *window)
             continue;
         }
         // Onwards is down, or to the right, be it at the top of the next column.
-        if (last && placeOf(next).top() < placeOf(last).bottom() && placeOf(next).left() < placeOf(last).right()) {
+        if (last && frameOf(last) == frameOf(next) && placeOf(next).top() < placeOf(last).bottom() &&
+            placeOf(next).left() < placeOf(last).right()) {
             problems += QString("Tab goes back from %1 to %2").arg(last->objectName(), next->objectName());
         }
         last = next;

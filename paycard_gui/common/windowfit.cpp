@@ -3,7 +3,7 @@
 
 #include "common/qtcompat.h"
 
-#include <QLayout>
+#include <QBoxLayout>
 #include <QScrollArea>
 
 #include <algorithm>
@@ -49,4 +49,16 @@ void growToContents(QWidget &window)
     for (const QScrollArea *area : areas) {
         growToShow(window, *area);
     }
+}
+
+void makeScrollable(QWidget *contents)
+{
+    QWidget *frame = contents->parentWidget();
+    QBoxLayout *layout = qobject_cast<QBoxLayout *>(frame->layout());
+    QScrollArea *area = new QScrollArea(frame);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    layout->insertWidget(layout->indexOf(contents), area);
+    area->setWidget(contents);
 }

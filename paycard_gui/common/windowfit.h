@@ -9,4 +9,7 @@ class QWidget;
 /// hides is shown as far as the screen has room for it.
 void growToContents(QWidget &window);
 
+/// Puts a widget of a form, which is in a box layout, into a scroll area at its place.
+void makeScrollable(QWidget *contents);
+
 #endif

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QPixmapCache>
 
 using NOX::PayCard::IPayCard;
 
@@ -300,6 +301,7 @@ void BridgeTest::thousandCalls()
         QFile statm("/proc/self/statm");
         return statm.open(QIODevice::ReadOnly) ? statm.readAll().split(' ').value(1).toLong() * 4 : 0;
     };
+    QPixmapCache::setCacheLimit(0); // it grows to some 10 MiB
     QTimer user;
     connect(&user, &QTimer::timeout, qApp, [] {
         if (QWidget *window = QApplication::activeModalWidget()) {

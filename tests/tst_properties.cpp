@@ -744,9 +744,10 @@ void PropertiesTest::lumiPay()
             Register shop(values);
             const bool hasTerminal = protocol == 8;
             const Field mode = {"cmbModemMode", "ModemMode", row.second, row.second == "0" ? "1" : "0"};
-            const std::vector<Field> fields = hasTerminal
-                                                  ? std::vector<Field>{mode, {"leTerminalID", "TerminalID", "", "T 1"}}
-                                                  : std::vector<Field>{mode};
+            std::vector<Field> fields = {mode};
+            if (hasTerminal) {
+                fields.push_back({"leTerminalID", "TerminalID", "", "T 1"});
+            }
             shop.run(ShowProperties, {press("pbtnSettingsButton"), fill(fields), press("pbtnOk"), press("pbtnOk")});
             compareStored(QNoxSettings(shop.driver.settings()), fields);
             QCOMPARE(shop.stored("TerminalID").isValid(), hasTerminal);

@@ -38,9 +38,25 @@ source_files() {
     [ ${#files[@]} -gt 0 ] || { echo "$(basename "$script"): no sources found" >&2; exit 1; }
 }
 
-# As cmake --preset: configure PRESET [OPTION...]
+# configure PRESET [OPTION...]: CMake before 3.21 knows no presets and gets what is in the file as options.
 configure() {
-    cmake --preset "$@" >/dev/null
+    local preset=$1 options
+    if cmake --list-presets >/dev/null 2>&1; then
+        cmake --preset "$@" >/dev/null
+    else
+        options=$(python3 - "$preset" <<'END'
+import json, os, sys
+presets = {preset["name"]: preset for preset in json.load(open("CMakePresets.json"))["configurePresets"]}
+def variables(name):
+    inherited = variables(presets[name]["inherits"]) if "inherits" in presets[name] else {}
+    return {**inherited, **presets[name].get("cacheVariables", {})}
+for name, value in variables(sys.argv[1]).items():
+    print("-D%s=%s" % (name, os.path.expandvars(value.replace("$env{", "${"))))
+END
+        )
+        mapfile -t options <<<"$options"
+        cmake -S . -B "build/$preset" -G Ninja "${options[@]}" "${@:2}" >/dev/null
+    fi
 }
 
 script=$(realpath "$0")

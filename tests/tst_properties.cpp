@@ -744,9 +744,9 @@ void PropertiesTest::lumiPay()
             Register shop(values);
             const bool hasTerminal = protocol == 8;
             const Field mode = {"cmbModemMode", "ModemMode", row.second, row.second == "0" ? "1" : "0"};
-            std::vector<Field> fields = {mode};
-            if (hasTerminal) {
-                fields.push_back({"leTerminalID", "TerminalID", "", "T 1"});
+            std::vector<Field> fields = {mode, {"leTerminalID", "TerminalID", "", "T 1"}};
+            if (!hasTerminal) {
+                fields.pop_back();
             }
             shop.run(ShowProperties, {press("pbtnSettingsButton"), fill(fields), press("pbtnOk"), press("pbtnOk")});
             compareStored(QNoxSettings(shop.driver.settings()), fields);

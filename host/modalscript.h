@@ -28,7 +28,7 @@ public:
     /// Calls `function`, plays the steps on the windows that it opens, and returns its result. When the steps
     /// have run out, or nothing happens for `timeout` milliseconds, every modal window left is closed, so
     /// that the call always returns.
-    int run(const std::function<int()> &function, int timeout = 5000);
+    int run(const std::function<int()> &function, int timeout = 20000);
 
     /// True when every step was played and no window had to be closed.
     bool completed() const;

@@ -7,6 +7,7 @@
 
 class QWidget;
 
+/// \file
 /// The entry points of the library. Each runs one modal window on the GUI thread and returns when it has
 /// closed.
 ///

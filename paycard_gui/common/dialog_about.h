@@ -26,6 +26,7 @@ public:
 
     /// An empty name clears the line, whatever the version.
     void setDriverName(const QString &name, const QString &version);
+    /// The same for the graphical module, whose line is below.
     void setGuiName(const QString &name, const QString &version);
 
 private slots:

@@ -12,6 +12,7 @@ namespace DriverText {
 /// such a text counts as missing, where honouring it would take gigabytes.
 const int MaxLength = 1 << 26;
 
+/// Whether a driver is believed to have a text of this length.
 inline bool isCredible(int length)
 {
     return length <= MaxLength;
@@ -20,8 +21,8 @@ inline bool isCredible(int length)
 /// The lengths that the driver reported, in its first answer and in its last; the same when it was asked once.
 struct Lengths
 {
-    int first;
-    int last;
+    int first; ///< in the first answer
+    int last;  ///< in the last answer
 };
 
 /// Has `get(characters, size)` fill the buffer, which has its initial size, and once more when the text did

@@ -23,6 +23,7 @@ public:
     /// What a finger has to hit is at least this high, in pixels: registers have touch screens.
     static constexpr int TouchHeight = 32;
 
+    /// `parent` may be null.
     explicit NoHelpButtonDialog(QWidget *parent = nullptr);
     ~NoHelpButtonDialog() override;
 
@@ -59,12 +60,15 @@ class PAYCARD_EXPORT NoHelpButtonMessageBox
 public:
     NoHelpButtonMessageBox() = delete;
 
+    /// For something to know.
     static QMessageBox::StandardButton information(QWidget *parent, const QString &title, const QString &text,
                                                    QMessageBox::StandardButtons buttons = QMessageBox::Ok,
                                                    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    /// For something to beware of.
     static QMessageBox::StandardButton warning(QWidget *parent, const QString &title, const QString &text,
                                                QMessageBox::StandardButtons buttons = QMessageBox::Ok,
                                                QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    /// For something to decide.
     static QMessageBox::StandardButton
     question(QWidget *parent, const QString &title, const QString &text,
              QMessageBox::StandardButtons buttons = QMessageBox::StandardButtons(QMessageBox::Yes | QMessageBox::No),
@@ -112,6 +116,7 @@ public:
                                    const QString &directory = QString(), const QString &filter = QString(),
                                    QString *selectedFilter = nullptr,
                                    QFileDialog::Options options = QFileDialog::Options());
+    /// `directory` is where the choice starts.
     static QString getExistingDirectory(QWidget *parent = nullptr, const QString &caption = QString(),
                                         const QString &directory = QString(),
                                         QFileDialog::Options options = QFileDialog::ShowDirsOnly);

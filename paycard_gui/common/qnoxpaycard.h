@@ -20,6 +20,7 @@
 class PAYCARD_EXPORT Exception : public std::exception
 {
 public:
+    /// `message` is for people.
     Exception(const QString &message);
     /// `text` is UTF-8.
     Exception(const char *text);
@@ -29,6 +30,7 @@ public:
 
     /// The message in UTF-8. The pointer is good until the next call on this object or its end.
     const char *what() const noexcept override;
+    /// The message as it was given.
     QString whatQString() const;
 
 private:
@@ -52,11 +54,16 @@ template <class T>
 class PAYCARD_EXPORT QNoxInterface
 {
 public:
+    /// An operation of the driver that writes a whole number.
     typedef int (T::*IntGetter)(int *);
+    /// An operation that writes a number with decimals.
     typedef int (T::*DoubleGetter)(double *);
+    /// An operation that writes a text to a buffer of this size and returns the length of the whole text.
     typedef int (T::*TextGetter)(wchar_t *, int);
+    /// The same with the name of what is asked for.
     typedef int (T::*NamedTextGetter)(const wchar_t *, wchar_t *, int);
 
+    /// `object` may be null.
     explicit QNoxInterface(T *object);
     virtual ~QNoxInterface();
 
@@ -68,6 +75,7 @@ public:
 
     /// The number that the getter writes, 0 if it writes none. A failure of the getter raises nothing.
     int getInt(IntGetter getter) const;
+    /// The same for a number with decimals.
     double getDouble(DoubleGetter getter) const;
 
     /// The text that the getter writes up to its closing zero, or a null text. A failure of the getter raises
@@ -80,6 +88,7 @@ public:
     /// an Exception when the getter fails, at first or when it is asked once more, when the text does not fit
     /// then either, and when its length is incredible.
     std::wstring getWhole(TextGetter getter) const;
+    /// The same for the text that belongs to a name.
     std::wstring getWhole(NamedTextGetter getter, const wchar_t *name) const;
 
     /// Takes the result of a driver's operation and returns it. Throws an Exception with the driver's own
@@ -103,6 +112,7 @@ extern template class PAYCARD_EXPORT QNoxInterface<NOX::PayCard::IPayCard>;
 class PAYCARD_EXPORT QNoxPaycard : public QNoxInterface<NOX::PayCard::IPayCard>
 {
 public:
+    /// `object` may be null.
     explicit QNoxPaycard(NOX::PayCard::IPayCard *object = nullptr);
     ~QNoxPaycard() override;
 

@@ -24,7 +24,9 @@ public:
 
     /// The value under this name, or `def` if there is none.
     QVariant get(const QString &name, const QVariant &def = QVariant()) const;
+    /// Enters the value under this name, in place of the earlier one.
     void set(const QString &name, const QVariant &value);
+    /// Takes the value under this name out, if there is one.
     void remove(const QString &name);
 
     /// The document as text, entries ascending by name, stamped with this version (0: with the one last

@@ -18,6 +18,7 @@ namespace NOX {
 class IVELBase;
 }
 
+/// \file
 /// Helpers shared by the driver family's graphical modules. They report failure by their result and never
 /// throw on their own account.
 ///
@@ -36,11 +37,15 @@ PAYCARD_EXPORT QString cmbDataStr(QComboBox *combo, int role = Qt::UserRole);
 PAYCARD_EXPORT int cmbData(QComboBox *combo, int role = Qt::UserRole);
 /// Index of the first item with this key, or -1.
 PAYCARD_EXPORT int QComboCanSelect(QComboBox *combo, const QString &text);
+/// The same for a number as the key.
 PAYCARD_EXPORT int QComboCanSelect(QComboBox *combo, int value);
 /// Makes the first item with this key current. Without one, none is current afterwards.
 PAYCARD_EXPORT void QComboSelect(QComboBox *combo, const QVariant &value);
+/// The same for a text as the key.
 PAYCARD_EXPORT void QComboSelect(QComboBox *combo, const QString &text);
+/// The same for a number as the key.
 PAYCARD_EXPORT void QComboSelect(QComboBox *combo, int value);
+/// The same for a text of the driver as the key.
 PAYCARD_EXPORT void QComboSelect(QComboBox *combo, const wchar_t *text);
 /// Selects by `value` if an item has this key, otherwise by `fallback`.
 PAYCARD_EXPORT void QComboSelectIfCan(QComboBox *combo, const QString &value, const QString &fallback);
@@ -77,6 +82,7 @@ PAYCARD_EXPORT QString mappingKey(QString mapping, const QString &value);
 PAYCARD_EXPORT QString mappingValue(QString mapping, const QString &key);
 /// True, with the value of the first entry with this key, if there is one; otherwise `value` is left alone.
 PAYCARD_EXPORT bool GetValueFromMappingKey(const QString &mapping, const QString &key, QString &value);
+/// The same for a number as the key.
 PAYCARD_EXPORT bool GetValueFromMappingKey(const QString &mapping, int key, QString &value);
 /// Numeric key (0 if it is none) of the first entry with this value; -1 if there is none. Only entries with
 /// their closing semicolon count.
@@ -109,9 +115,9 @@ PAYCARD_EXPORT QString appDir();
 PAYCARD_EXPORT QString configDir();
 /// Installs the toolkit's own translation for the system's language, if there is one.
 PAYCARD_EXPORT void installTranslator(QCoreApplication &application);
-/// Registers and unregisters the library's images; loading and unloading the library does it, too. Both
-/// return 1.
+/// Registers the library's images, as loading the library does. Returns 1.
 PAYCARD_EXPORT int qInitResources_paycard_gui();
+/// Takes the registration back, as unloading the library does. Returns 1.
 PAYCARD_EXPORT int qCleanupResources_paycard_gui();
 
 ///@}

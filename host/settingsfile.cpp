@@ -10,6 +10,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -72,7 +73,10 @@ QString SettingsFile::read(QByteArray *content) const
         return errno == ENOENT ? QString() : unreadable(QString::fromLocal8Bit(std::strerror(errno)));
     }
     QFile file;
-    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
+        return unreadable(file.errorString());
+    }
     struct stat status;
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         return QStringLiteral("это не обычный файл");

@@ -61,12 +61,13 @@ void *operator new(std::size_t size)
     return memory;
 }
 
-void operator delete(void *memory) noexcept
+// Inlined without its counterpart, it looks to GCC 14 like a mismatch.
+[[gnu::noinline]] void operator delete(void *memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void *memory, std::size_t /*size*/) noexcept
+[[gnu::noinline]] void operator delete(void *memory, std::size_t /*size*/) noexcept
 {
     std::free(memory);
 }

@@ -65,6 +65,12 @@ std::function<void(SimulatedDriver &)> paying(double sum)
     return [=](SimulatedDriver &driver) { driver.operation.sum = sum; };
 }
 
+/// Far more than a person reads.
+QString longText()
+{
+    return QString("Терминал не отвечает на запрос. ").repeated(100);
+}
+
 QMap<QString, QString> protocol(int number)
 {
     return {{"Protocol", QString::number(number)}};
@@ -90,9 +96,11 @@ QList<Scene> scenes()
     const QString shop = "cyberplat";
     const Failure throwing = {Fault::ThrowStandard, 0, "сбой", QString()};
     const auto refund = [](SimulatedDriver &driver) { driver.operation.code = 1; };
+    const auto longAccount = [](SimulatedDriver &driver) { driver.operation.account = longText(); };
     return {
         {"confirmation-card", "ConfirmPayment", "arcus2", {}, protocol(0), refund},
         {"confirmation-services", "ConfirmPayment", shop},
+        {"confirmation-long", "ConfirmPayment", shop, {}, {}, longAccount},
         {"confirmation-failed", "ConfirmPayment", shop, {}, {}, failing("getSum", throwing)},
         {"select-operator", "SelectOperator", shop},
         {"commission", "CommissionAddition", shop},
@@ -100,6 +108,12 @@ QList<Scene> scenes()
         {"properties", properties, shop},
         {"properties-no-directory", properties, shop, {set("lePathACDialog", "text", "/нет/такого/каталога")}},
         {"properties-refused", properties, shop, {press("pbtnOk")}, {}, failing("setSettings", Refusal)},
+        {"properties-long",
+         properties,
+         shop,
+         {press("pbtnOk")},
+         {},
+         failing("setSettings", {Fault::Refuse, 12, longText(), {}})},
         {"slip", properties, shop, {open("pbtnSlip")}},
         {"operators", properties, shop, {open("pbtnOperators"), set("lwOperators", "currentRow", 1)}},
         {"operator", properties, shop, {open("pbtnOperators"), set("lwOperators", "currentRow", 1), open("pbtnEdit")}},

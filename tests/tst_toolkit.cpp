@@ -206,6 +206,15 @@ void ToolkitTest::files()
     const auto save2 = [&] {
         return NoHelpButtonFileDialog::getSaveFileName(nullptr, "T", path + "/new.a", "А (*.a);;Б (*.b)", &filter);
     };
+    // The toolkit's own question is no last window of the host either.
+    QSignalSpy lastWindow(qApp, SIGNAL(lastWindowClosed()));
+    ModalScript replace({[](QWidget *window) { QTimer::singleShot(0, window, SLOT(accept())); },
+                         [](QWidget *question) { ModalScript::press(question, "Yes"); }});
+    QCOMPARE(replace.run([&] {
+        return NoHelpButtonFileDialog::getSaveFileName(nullptr, "T", path + "/x.a", QString(), nullptr).isEmpty();
+    }),
+             0);
+    QVERIFY(replace.completed() && lastWindow.isEmpty());
     QCOMPARE(play(true, save2), path + "/new.a");
     QCOMPARE(filter, QString("А (*.a)"));
 

@@ -10,6 +10,7 @@
 #include <QChildEvent>
 #include <QComboBox>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QPointer>
 #include <QPushButton>
@@ -75,6 +76,16 @@ void prepareToShow(QWidget &window)
     QtCompat::keepAboveActiveWindow(window);
 }
 
+/// Characters from which on a message box is wider than the toolkit makes it, so that it is not too high.
+const int WideTextLength = 400;
+
+void widen(QMessageBox &box)
+{
+    QGridLayout *layout = qobject_cast<QGridLayout *>(box.layout());
+    const int width = QtCompat::availableGeometry(box).width() * 3 / 4;
+    layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
+}
+
 QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
                                           const QString &text, QMessageBox::StandardButtons buttons,
                                           QMessageBox::StandardButton defaultButton)
@@ -85,6 +96,9 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
     box->setToolTip(isRich && shown != text ? text : ShownText::toolTip(text, shown));
     makeGuest(*box);
     box->setDefaultButton(defaultButton);
+    if (shown.size() > WideTextLength) {
+        widen(*box);
+    }
     prepareToShow(*box);
     return static_cast<QMessageBox::StandardButton>(box->exec());
 }

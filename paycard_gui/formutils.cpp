@@ -24,7 +24,7 @@ namespace {
 /// The column of its grid that the label is in; 0 in other layouts.
 int columnOf(QLabel *label)
 {
-    const QGridLayout *grid = qobject_cast<QGridLayout *>(label->parentWidget()->layout());
+    QGridLayout *grid = qobject_cast<QGridLayout *>(label->parentWidget()->layout());
     const int index = grid ? grid->indexOf(label) : -1;
     int row = 0;
     int column = 0;

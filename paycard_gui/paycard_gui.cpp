@@ -5,12 +5,13 @@
 #include "common/nohelpbuttondialogs.h"
 #include "common/qnoxpaycard.h"
 #include "common/qt_utils.h"
+#include "common/qtcompat.h"
 #include "common/scopeddialog.h"
 #include "paymentconfirmation.h"
 #include "paysystemdialog.h"
 #include "selectoperatordialog.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QPointer>
 #include <QThread>
 
@@ -22,8 +23,8 @@ const int NotPerformed = -1;
 /// thread than its own.
 bool canShowWidgets()
 {
-    const QCoreApplication *application = qobject_cast<QApplication *>(app());
-    return application && application->thread() == QThread::currentThread();
+    const QCoreApplication *application = app();
+    return application && QtCompat::showsWidgets() && application->thread() == QThread::currentThread();
 }
 
 /// The host's widget, which the host may delete at any time.

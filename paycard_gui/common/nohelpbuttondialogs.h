@@ -69,10 +69,9 @@ public:
                                                QMessageBox::StandardButtons buttons = QMessageBox::Ok,
                                                QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
     /// For something to decide.
-    static QMessageBox::StandardButton
-    question(QWidget *parent, const QString &title, const QString &text,
-             QMessageBox::StandardButtons buttons = QMessageBox::StandardButtons(QMessageBox::Yes | QMessageBox::No),
-             QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    static QMessageBox::StandardButton question(QWidget *parent, const QString &title, const QString &text,
+                                                QMessageBox::StandardButtons buttons = QtCompat::questionButtons(),
+                                                QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
     /// With an OK button only.
     static QMessageBox::StandardButton critical(QWidget *parent, const QString &title, const QString &text);
 };

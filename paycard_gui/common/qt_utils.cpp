@@ -228,8 +228,9 @@ int WStrToQListWidget(QListWidget *list, const QString &devices)
 
 int QStringToWChar(const QString &text, std::vector<wchar_t> &buffer)
 {
-    buffer.assign(static_cast<std::size_t>(text.size()) + 1, L'\0');
-    return static_cast<int>(text.toWCharArray(buffer.data()));
+    const std::wstring wide = QtCompat::wideText(text);
+    buffer.assign(wide.c_str(), wide.c_str() + wide.size() + 1);
+    return static_cast<int>(wide.size());
 }
 
 void parseMapping(const QString &mapping, QMap<QString, QString> &map)

@@ -6,10 +6,13 @@
 #include <QByteArray>
 #include <QFileDialog>
 #include <QLibraryInfo>
+#include <QMessageBox>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 #include <QXmlStreamReader>
+
+#include <string>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
 #include <QScreen>
@@ -41,6 +44,16 @@
 
 namespace QtCompat {
 
+/// The buttons that the toolkit's own question has by default.
+inline QMessageBox::StandardButtons questionButtons()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QMessageBox::Yes | QMessageBox::No;
+#else
+    return QMessageBox::Ok;
+#endif
+}
+
 inline QStringList splitSkippingEmpty(const QString &text, QChar separator)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
@@ -58,6 +71,20 @@ inline QString escaped(const QString &text)
 #else
     return Qt::escape(text);
 #endif
+}
+
+/// The text in characters of four bytes. The oldest release counts a pair as two of them and puts a zero at the end.
+inline std::wstring wideText(const QString &text)
+{
+    std::wstring wide = text.toStdWString();
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    std::size_t pairs = 0;
+    for (int i = 1; i < text.size(); ++i) {
+        pairs += text.at(i - 1).isHighSurrogate() && text.at(i).isLowSurrogate() ? 1 : 0;
+    }
+    wide.resize(wide.size() - pairs);
+#endif
+    return wide;
 }
 
 inline int typeOf(const QVariant &value)
@@ -102,6 +129,17 @@ inline QRect availableGeometry(const QWidget &widget)
 #endif
 }
 
+/// Whether the application object has been created to show widgets. That of the oldest release may have been told
+/// not to, though its class is the same.
+inline bool showsWidgets()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return qobject_cast<QApplication *>(QCoreApplication::instance());
+#else
+    return qobject_cast<QApplication *>(QCoreApplication::instance()) && QApplication::type() != QApplication::Tty;
+#endif
+}
+
 /// The directory of the toolkit's own translation files.
 inline QString translationsDirectory()
 {
@@ -125,17 +163,18 @@ inline void chooseDirectoriesOnly(QFileDialog &dialog)
 }
 
 /// Keeps a window without a parent above the application's active window, which may be a full-screen one that
-/// stays on top. The oldest release does so by itself.
+/// stays on top.
 inline void keepAboveActiveWindow(QWidget &window)
 {
-#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
     const QWidget *active = QApplication::activeWindow();
-    if (active && !window.parentWidget()) {
-        window.winId(); // gives it the handle that is asked for next
-        window.windowHandle()->setTransientParent(active->windowHandle());
+    if (!active || window.parentWidget()) {
+        return;
     }
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    window.winId(); // gives it the handle that is asked for next
+    window.windowHandle()->setTransientParent(active->windowHandle());
 #else
-    Q_UNUSED(window);
+    window.setWindowFlags(window.windowFlags() | (active->windowFlags() & Qt::WindowStaysOnTopHint));
 #endif
 }
 

@@ -51,7 +51,7 @@ QString withPlainDeclaration(const QString &xml)
 /// the defaults of attributes.
 bool unfoldsInDeclarations(const QString &xml)
 {
-    const QLatin1String declaration("<!ENTITY");
+    const QString declaration = QLatin1String("<!ENTITY");
     auto at = xml.indexOf(declaration);
     if (at >= 0 && xml.contains(QLatin1String("<!ATTLIST"))) {
         return true;

@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QPushButton>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -95,21 +94,25 @@ const struct
 };
 
 /// Presses the default button of the modal window that is open, or closes a window that has none to press.
-void answer()
+class Cashier : public QObject
 {
-    QWidget *window = QApplication::activeModalWidget();
-    if (!window) {
-        return;
-    }
-    const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
-    for (QPushButton *button : buttons) {
-        if (button->isDefault() && button->isEnabled()) {
-            button->click();
+protected:
+    void timerEvent(QTimerEvent * /*event*/) override
+    {
+        QWidget *window = QApplication::activeModalWidget();
+        if (!window) {
             return;
         }
+        const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
+        for (QPushButton *button : buttons) {
+            if (button->isDefault() && button->isEnabled()) {
+                button->click();
+                return;
+            }
+        }
+        window->close();
     }
-    window->close();
-}
+};
 
 } // namespace
 
@@ -121,10 +124,9 @@ int main(int argc, char **argv)
     const bool unattended = arguments.removeAll("--answer") > 0;
     const QString wanted = arguments.value(0, "ConfirmPayment");
 
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, answer);
+    Cashier cashier;
     if (unattended) {
-        timer.start(50);
+        cashier.startTimer(50);
     }
     for (const auto &entryPoint : EntryPoints) {
         if (wanted == entryPoint.name) {

@@ -5,14 +5,13 @@
 #   PAYCARD_QT_LIBRARIES   what the library links
 #   paycard_add_resources  compiles a resource file: <variable> <file>
 #
-# The reference host and the tests need Qt 5 or 6; with Qt 4 only the library is built.
+# The reference host needs Qt 5 or 6; with Qt 4 only the parts of it that the tests use are built.
 
 set(PAYCARD_QT Qt${PAYCARD_QT_VERSION})
 
 if(PAYCARD_QT_VERSION EQUAL 4)
     find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui QtXml)
     set(PAYCARD_QT_LIBRARIES Qt4::QtGui Qt4::QtXml)
-    set(PAYCARD_BUILD_HOST OFF)
     macro(paycard_add_resources variable file)
         qt4_add_resources(${variable} ${file})
     endmacro()

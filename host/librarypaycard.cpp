@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <map>
+
 QStringList LibraryPaycard::functions()
 {
     return {"ShowProperties", "SelectOperator", "CommissionAddition", "ConfirmPayment", "AskParams"};
@@ -12,13 +14,13 @@ QStringList LibraryPaycard::functions()
 
 QString LibraryPaycard::defaultPath()
 {
-    QString chosen = qEnvironmentVariable("PAYCARD_GUI");
+    QString chosen = QString::fromLocal8Bit(qgetenv("PAYCARD_GUI"));
     if (!chosen.isEmpty()) {
         return chosen;
     }
     const QFileInfo built(QStringLiteral(PAYCARD_GUI_LIBRARY));
     const QString beside = QDir(QCoreApplication::applicationDirPath()).filePath(built.fileName());
-    return QFileInfo::exists(beside) ? beside : built.filePath();
+    return QFile::exists(beside) ? beside : built.filePath();
 }
 
 bool LibraryPaycard::load(const QString &path, QString *reason)
@@ -49,12 +51,12 @@ int LibraryPaycard::call(const QString &function, NOX::PayCard::IPayCard *driver
 
 QString LibraryPaycard::inWords(const QString &function, int result)
 {
-    static const QMap<QString, QStringList> meanings = {
+    static const QMap<QString, QStringList> meanings(std::map<QString, QStringList>{
         {"ShowProperties", {"отменено", "сохранено"}},
         {"SelectOperator", {"отменено", "выбран"}},
         {"CommissionAddition", {"отменено", "в сумме", "сверх суммы"}},
         {"ConfirmPayment", {"отменено", "подтверждено"}},
-    };
+    });
     const QString meaning = result == -1 ? QStringLiteral("не выполнено") : meanings.value(function).value(result);
     QString number = QString::number(result);
     number.replace(QLatin1Char('-'), QChar(0x2212));

@@ -4,8 +4,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
-#include <QScopeGuard>
 
+#include <memory>
 #include <utility>
 
 namespace {
@@ -34,7 +34,7 @@ ModalScript::ModalScript(std::vector<Step> steps) : steps(std::move(steps))
     // Started anew after each step, so that what the step has queued comes before the next one.
     timer.setSingleShot(true);
     timer.setInterval(PollInterval);
-    connect(&timer, &QTimer::timeout, this, &ModalScript::poll);
+    connect(&timer, SIGNAL(timeout()), SLOT(poll()));
 }
 
 int ModalScript::run(const std::function<int()> &function, int timeout)
@@ -45,7 +45,7 @@ int ModalScript::run(const std::function<int()> &function, int timeout)
     patience = timeout;
     sinceLastStep.start();
     timer.start();
-    const auto stop = qScopeGuard([this] { timer.stop(); });
+    const std::unique_ptr<QTimer, void (*)(QTimer *)> running(&timer, [](QTimer *started) { started->stop(); });
     return function();
 }
 
@@ -57,8 +57,7 @@ bool ModalScript::completed() const
 bool ModalScript::press(QWidget *window, const QString &button)
 {
     QAbstractButton *found = findButton(window, button);
-    return found && found->isEnabled() &&
-           QMetaObject::invokeMethod(found, &QAbstractButton::click, Qt::QueuedConnection);
+    return found && found->isEnabled() && QMetaObject::invokeMethod(found, "click", Qt::QueuedConnection);
 }
 
 void ModalScript::poll()

@@ -37,8 +37,10 @@ public:
     /// it is disabled. The button is given by its object name, or by its caption without the ampersand.
     static bool press(QWidget *window, const QString &button);
 
-private:
+private slots:
     void poll();
+
+private:
     void playNext(QWidget *window);
     void end(QWidget *window);
 

@@ -14,7 +14,7 @@ const int MaxDepth = 16;
 /// Of a fixed length, so that it does not give the length of the password away.
 const char *const Mask = "••••••";
 
-QString unreadable(QString::size_type length)
+QString unreadable(decltype(QString().size()) length)
 {
     return QStringLiteral("(нечитаемый документ, знаков: %1)").arg(length);
 }
@@ -65,9 +65,12 @@ SettingsDocument::SettingsDocument(const QString &xml) : length(xml.size())
 
 QString SettingsDocument::value(const QString &name) const
 {
-    const auto found =
-        std::find_if(values.crbegin(), values.crend(), [&](const SettingsEntry &entry) { return entry.name == name; });
-    return found == values.crend() ? QString() : found->text;
+    for (auto i = values.size() - 1; i >= 0; --i) {
+        if (values.at(i).name == name) {
+            return values.at(i).text;
+        }
+    }
+    return QString();
 }
 
 void SettingsDocument::setValue(const QString &name, const QString &text)

@@ -46,7 +46,7 @@ private:
     QList<SettingsEntry> values;
     QString version;
     QString error;
-    QString::size_type length;
+    decltype(QString().size()) length;
 };
 
 #endif

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 // A resource of a static library has to be asked for, from outside any namespace.
 static void initResources()
@@ -22,7 +23,6 @@ namespace {
 
 const int JournalLimit = 10000;
 const int EventLoopTime = 5; // ms
-const char *const EmptyDocument = "<settings version=\"2\">\n</settings>\n";
 
 /// Codes of the driver's own failures.
 enum ResultCode { Success = 0, MalformedSettings = 101, SettingsNotSaved = 102, NoSuchOperator = 103 };
@@ -76,7 +76,7 @@ QString portChoices()
 
 QString choicesOf(const QString &setting)
 {
-    static const QMap<QString, QString> choices = {
+    const std::pair<const char *, QString> choices[] = {
         {"Protocol", "0:Файловый обмен;1:Ручной ввод;2:CyberPlat: оплата услуг;3:Пинпад (протокол 3);"
                      "4:Пинпад (протокол 4);5:Банковский шлюз (протокол 5);6:ARCOM ARCUS2;"
                      "7:Файловый обмен с подтверждением;8:INPAS SmartSale (LumiPay);9:ARCOM ARCUS2 (LumiPay);"
@@ -86,7 +86,12 @@ QString choicesOf(const QString &setting)
         {"BaudRate", "1200:1200;2400:2400;4800:4800;9600:9600;19200:19200;38400:38400;57600:57600;"
                      "115200:115200;"},
     };
-    return choices.value(setting);
+    for (const auto &choice : choices) {
+        if (setting == QLatin1String(choice.first)) {
+            return choice.second;
+        }
+    }
+    return QString();
 }
 
 } // namespace
@@ -131,30 +136,6 @@ QString SimulatedDriver::sample(const QString &name)
 
 SimulatedDriver::SimulatedDriver() : document(EmptyDocument), last(refusal(Success)) {}
 
-bool SimulatedDriver::openSettings(const QString &path, QString *reason)
-{
-    // Its own file is not locked for this driver.
-    const std::shared_ptr<SettingsFile> opened = file && file->isAt(path) ? file : std::make_shared<SettingsFile>(path);
-    QByteArray bytes = EmptyDocument;
-    QString problem = opened->lock();
-    if (problem.isEmpty()) {
-        problem = opened->read(&bytes);
-    }
-    const Document read(QString::fromUtf8(bytes));
-    if (problem.isEmpty() && !read.content.isValid()) {
-        problem = QStringLiteral("документ испорчен: %1").arg(read.content.errorPlace());
-    } else if (problem.isEmpty() && read.text.contains(QChar::ReplacementCharacter)) {
-        problem = QStringLiteral("кодировка не UTF-8");
-    }
-    if (problem.isEmpty()) {
-        document = read;
-        file = opened;
-    } else if (reason) {
-        *reason = QStringLiteral("Настройки %1 не открыты: %2").arg(path, problem);
-    }
-    return problem.isEmpty();
-}
-
 bool SimulatedDriver::replaceSettings(const QString &xml, QString *reason)
 {
     const Failure failure = replaceDocument(xml);
@@ -171,10 +152,9 @@ Failure SimulatedDriver::replaceDocument(const QString &xml)
         return refusal(MalformedSettings, QStringLiteral("Документ настроек не читается"),
                        replacement.content.errorPlace());
     }
-    const QString problem = file ? file->write(xml.toUtf8()) : QString();
+    const QString problem = save ? save(xml.toUtf8()) : QString();
     if (!problem.isEmpty()) {
-        return refusal(SettingsNotSaved, QStringLiteral("Настройки не сохранены"),
-                       QStringLiteral("%1: %2").arg(file->path(), problem));
+        return refusal(SettingsNotSaved, QStringLiteral("Настройки не сохранены"), problem);
     }
     document = replacement;
     return refusal(Success);

@@ -4,8 +4,8 @@
 
 #include "common/ipaycard.h"
 #include "settingsdocument.h"
-#include "settingsfile.h"
 
+#include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -13,6 +13,8 @@
 #include <functional>
 #include <memory>
 #include <optional>
+
+class SettingsFile;
 
 /// How an operation of the simulated driver is made to fail.
 enum class Fault {
@@ -82,9 +84,9 @@ public:
     bool openSettings(const QString &path, QString *reason);
 
     /// That file, or nothing while the settings are kept in memory only.
-    QString settingsFile() const { return file ? file->path() : QString(); }
+    QString settingsFile() const;
     /// Saves no more, and leaves the file as it is.
-    void closeSettings() { file.reset(); }
+    void closeSettings();
 
     /// The current document, and a way to replace it as setSettings() does. False, with the reason, when it
     /// is refused.
@@ -137,6 +139,8 @@ public:
     int getOperatorCommission(double *commission) override;
 
 private:
+    static constexpr const char *EmptyDocument = "<settings version=\"2\">\n</settings>\n";
+
     /// A settings document together with what depends on its text only.
     struct Document
     {
@@ -166,6 +170,8 @@ private:
     Document document;
     /// Shared with nobody but the next opening of the same file.
     std::shared_ptr<SettingsFile> file;
+    /// Saves the text in it and gives the reason when that fails. None while the settings are kept in memory only.
+    std::function<QString(const QByteArray &)> save;
     QMap<QString, Failure> inForce;
     /// What the error operations tell of; code 0 after a success.
     Failure last;

@@ -73,7 +73,9 @@ QString longText()
 
 QMap<QString, QString> protocol(int number)
 {
-    return {{"Protocol", QString::number(number)}};
+    QMap<QString, QString> settings;
+    settings.insert("Protocol", QString::number(number));
+    return settings;
 }
 
 /// The settings of a protocol, and what they look like on a page of their own.
@@ -141,7 +143,7 @@ QList<Scene> scenes()
 void prepareDriver(SimulatedDriver &driver, const Scene &scene, const Operation &operation)
 {
     SettingsDocument settings(SimulatedDriver::sample(scene.sample));
-    for (auto tweak = scene.settings.cbegin(); tweak != scene.settings.cend(); ++tweak) {
+    for (auto tweak = scene.settings.constBegin(); tweak != scene.settings.constEnd(); ++tweak) {
         settings.setValue(tweak.key(), tweak.value());
     }
     driver.operation = operation;

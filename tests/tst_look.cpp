@@ -4,6 +4,7 @@
 #include "windowtour.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -62,9 +63,16 @@ bool takesInput(const QWidget *widget)
         widget);
 }
 
-QString accessibleName(QWidget *widget)
+template <class Interface>
+auto nameOf(Interface *accessible, int) -> decltype(accessible->text(QAccessible::Name))
 {
-    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+    return accessible->text(QAccessible::Name);
+}
+
+template <class Interface>
+QString nameOf(Interface *accessible, long)
+{
+    return accessible->text(QAccessible::Name, 0); // of the widget itself, as Qt 4.8 asks for it
 }
 
 /// What the widget has to be within: the contents of a scroll area, or its window.
@@ -122,7 +130,7 @@ QStringList problemsOf(QWidget *widget)
     if (isClipped(widget)) {
         problems += "clipped";
     }
-    if (takesInput(widget) && accessibleName(widget).isEmpty()) {
+    if (takesInput(widget) && nameOf(QAccessible::queryAccessibleInterface(widget), 0).isEmpty()) {
         problems += "no accessible name";
     }
     if (isOneOf<QPushButton, QToolButton, QComboBox>(widget) && widget->height() < 32) {
@@ -156,6 +164,27 @@ QStringList tabProblems(const QWidget *window)
     }
     for (const QWidget *widget : unreached) {
         problems += widget->objectName() + " is not reached by Tab";
+    }
+    return problems;
+}
+
+QStringList problemsOf(const QWidget *window, const QSize &screen)
+{
+    QStringList problems = tabProblems(window);
+    const QList<QWidget *> widgets = formWidgets(window);
+    for (QWidget *widget : widgets) {
+        const QStringList own = problemsOf(widget);
+        if (!own.isEmpty()) {
+            problems +=
+                QString("%1 %2: %3").arg(widget->metaObject()->className(), widget->objectName(), own.join(", "));
+        }
+    }
+    if (window->width() > screen.width() || window->height() > screen.height()) {
+        problems += QString("too large: %1 x %2").arg(window->width()).arg(window->height());
+    }
+    const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
+    if (std::none_of(buttons.begin(), buttons.end(), [](const QPushButton *button) { return button->isDefault(); })) {
+        problems += "no default button";
     }
     return problems;
 }
@@ -198,29 +227,18 @@ void LookTest::windows()
     int visited = 0;
     const QMap<QString, QString> missing = visitWindows(library, operation, [&](const QString &name, QWidget *window) {
         ++visited;
-        QCoreApplication::sendPostedEvents();
-        QStringList found = tabProblems(window);
-        const QList<QWidget *> widgets = formWidgets(window);
-        for (QWidget *widget : widgets) {
-            const QStringList own = problemsOf(widget);
-            if (!own.isEmpty()) {
-                found +=
-                    QString("%1 %2: %3").arg(widget->metaObject()->className(), widget->objectName(), own.join(", "));
-            }
-        }
-        if (window->width() > screen.width() || window->height() > screen.height()) {
-            found += QString("too large: %1 x %2").arg(window->width()).arg(window->height());
-        }
-        const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
-        if (std::none_of(buttons.begin(), buttons.end(),
-                         [](const QPushButton *button) { return button->isDefault(); })) {
-            found += "no default button";
+        QStringList found = problemsOf(window, screen);
+        // A window manager gives a window its size when it likes. The tour's own timer must not run meanwhile.
+        for (int i = 0; i < 50 && !found.isEmpty(); ++i) {
+            QTest::qSleep(10);
+            QCoreApplication::processEvents(QEventLoop::X11ExcludeTimers);
+            found = problemsOf(window, screen);
         }
         for (const QString &problem : found) {
             problems += name + ": " + problem;
         }
     });
-    QVERIFY2(problems.isEmpty(), qPrintable('\n' + problems.join('\n')));
+    QVERIFY2(problems.isEmpty(), qPrintable('\n' + problems.join("\n")));
     QCOMPARE(missing, (QMap<QString, QString>()));
     QVERIFY(visited >= 27);
 }

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -87,7 +86,7 @@ void ToolkitTest::messageBoxes()
             shown = QString("%1|%2|%3").arg(box->windowTitle(), box->text()).arg(int(box->standardButtons()));
             isDefault = box->defaultButton() == box->button(button);
             QVERIFY(!hasHelpButton(box));
-            box->button(button)->click();
+            button == QMessageBox::NoButton ? void(box->close()) : box->button(button)->click();
         }});
         return script.run(ask);
     };
@@ -105,8 +104,11 @@ void ToolkitTest::messageBoxes()
     QCOMPARE(icon, QMessageBox::Warning);
     answer(QMessageBox::Ok, [] { return NoHelpButtonMessageBox::information(nullptr, "T", "t"); });
     QCOMPARE(icon, QMessageBox::Information);
-    QCOMPARE(answer(QMessageBox::No, [] { return NoHelpButtonMessageBox::question(nullptr, "T", "t"); }),
-             static_cast<int>(QMessageBox::No));
+    // Closing it answers with the button that the toolkit's own has for that.
+    const int closed = answer(QMessageBox::NoButton, [] { return QMessageBox::question(nullptr, "T", "t"); });
+    const QString own = shown;
+    QCOMPARE(answer(QMessageBox::NoButton, [] { return NoHelpButtonMessageBox::question(nullptr, "T", "t"); }), closed);
+    QCOMPARE(shown, own);
     QCOMPARE(icon, QMessageBox::Question);
 }
 

@@ -104,7 +104,7 @@ void UtilsTest::wideLists()
         for (int i = 0; i < combo.count(); ++i) {
             texts += combo.itemText(i);
         }
-        QCOMPARE(texts.join(','), QString(row.texts));
+        QCOMPARE(texts.join(","), QString(row.texts));
         QCOMPARE(combo.currentIndex(), row.current);
         QCOMPARE(combo.isEnabled(), row.enabled);
     }
@@ -122,7 +122,7 @@ void UtilsTest::deviceList()
         seen +=
             item->text() + '=' + item->data(Qt::UserRole).toString() + '/' + item->data(Qt::UserRole + 1).toString();
     }
-    QCOMPARE(seen.join(' '), QString("COM1=TTY/0 USB=USB/ Two=BT/ Three=TTY/"));
+    QCOMPARE(seen.join(" "), QString("COM1=TTY/0 USB=USB/ Two=BT/ Three=TTY/"));
 }
 
 void UtilsTest::lookups()
@@ -154,9 +154,10 @@ void UtilsTest::lookups()
     QString found;
     QVERIFY(GetValueFromMappingKey("1:a;", 1, found) && found == "a");
 
-    QMap<QString, QString> map = {{"old", "kept"}, {"1", "replaced"}};
+    typedef std::map<QString, QString> Pairs;
+    QMap<QString, QString> map(Pairs{{"old", "kept"}, {"1", "replaced"}});
     parseMapping("1:a;lone;1:b:c;;", map);
-    QCOMPARE(map, (QMap<QString, QString>{{"old", "kept"}, {"1", "b:c"}, {"lone", ""}}));
+    QCOMPARE(map.toStdMap(), (Pairs{{"old", "kept"}, {"1", "b:c"}, {"lone", ""}}));
 }
 
 void UtilsTest::wideTexts()

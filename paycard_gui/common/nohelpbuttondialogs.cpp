@@ -188,6 +188,16 @@ NoHelpButtonDialog::NoHelpButtonDialog(QWidget *parent) : QDialog(parent)
 
 NoHelpButtonDialog::~NoHelpButtonDialog()
 {
+    try {
+        // While this one is whole: when the last modal window goes, the oldest toolkit remembers the one that the mouse
+        // is over, and would come back to it though it was half destroyed.
+        const QList<QDialog *> opened = findChildren<QDialog *>();
+        for (QDialog *dialog : opened) {
+            dialog->hide();
+        }
+    } catch (...) {
+        // There is no memory; they go with this one.
+    }
     failures.erase(this);
 }
 

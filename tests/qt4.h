@@ -6,6 +6,7 @@
 #include <QDesktopWidget>
 #include <QDir>
 #include <QPixmap>
+#include <QResource>
 #include <QtTest>
 
 #include <cstdarg>
@@ -87,6 +88,21 @@ private:
     };
 };
 #define QTimer FunctionTimer
+
+class CompressedResource : public QResource
+{
+public:
+    using QResource::QResource;
+    enum Compression { NoCompression, ZlibCompression };
+    Compression compressionAlgorithm() const { return isCompressed() ? ZlibCompression : NoCompression; }
+};
+#define QResource CompressedResource
+
+template <>
+inline QVariant QVariant::fromValue(const Qt::PenStyle &style)
+{
+    return static_cast<int>(style);
+}
 
 struct QScreen
 {

@@ -52,6 +52,7 @@ void ApplicationTest::created()
 
     Register shop;
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray display = qgetenv("DISPLAY");
     qputenv("DISPLAY", ":77");
     for (const char *unusable : {"xcb", "nosuch", ""}) {
         qputenv("QT_QPA_PLATFORM", unusable);
@@ -59,6 +60,7 @@ void ApplicationTest::created()
         QVERIFY(!QCoreApplication::instance());
     }
     qputenv("QT_QPA_PLATFORM", platform);
+    qputenv("DISPLAY", display);
     qputenv("LC_ALL", "C.UTF-8");
     const auto closeTheQuestion = [] {
         QWidget *question = QApplication::activeModalWidget();

@@ -62,6 +62,7 @@ void ApplicationTest::created()
     qputenv("QT_QPA_PLATFORM", platform);
     qputenv("DISPLAY", display);
     qputenv("LC_ALL", "C.UTF-8");
+    const QByteArray locale = std::setlocale(LC_ALL, nullptr);
     const auto closeTheQuestion = [] {
         QWidget *question = QApplication::activeModalWidget();
         QVERIFY(question);
@@ -72,7 +73,7 @@ void ApplicationTest::created()
         QTimer::singleShot(0, qApp, closeTheQuestion);
     };
     QCOMPARE(ConfirmPayment(&shop.driver, nullptr), 0);
-    QCOMPARE(std::setlocale(LC_ALL, nullptr), "C"); // the host's numbers
+    QCOMPARE(std::setlocale(LC_ALL, nullptr), locale.constData()); // the host's numbers
     QCoreApplication *first = QCoreApplication::instance();
     QVERIFY(qobject_cast<QApplication *>(first));
     QCOMPARE(app(), first);

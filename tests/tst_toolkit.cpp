@@ -206,7 +206,7 @@ void ToolkitTest::files()
     QCOMPARE(filter, QString("Б (*.b)")); // the choice was cancelled
     QVERIFY(QFile(path + "/x.a").open(QIODevice::WriteOnly));
     const auto save2 = [&] {
-        return NoHelpButtonFileDialog::getSaveFileName(nullptr, "T", path + "/new.a", "А (*.a);;Б (*.b)", &filter);
+        return NoHelpButtonFileDialog::getSaveFileName(nullptr, "T", path + "/new.tar.a", "А (*.a);;Б (*.b)", &filter);
     };
     // The toolkit's own question is no last window of the host either.
     QSignalSpy lastWindow(qApp, SIGNAL(lastWindowClosed()));
@@ -217,7 +217,8 @@ void ToolkitTest::files()
     }),
              0);
     QVERIFY(replace.completed() && lastWindow.isEmpty());
-    QCOMPARE(play(true, save2), path + "/new.a");
+    QCOMPARE(play(true, save2), path + "/new.tar.a");
+    QCOMPARE(offered, QString("new.tar.a|T"));
     QCOMPARE(filter, QString("А (*.a)"));
 
     filter.clear();

@@ -163,12 +163,17 @@ QString firstSelected(const QFileDialog &dialog)
     return files.isEmpty() ? QString() : files.first();
 }
 
-QString runFileDialog(const ScopedDialog<QFileDialog> &dialog, QString *selectedFilter, QFileDialog::Options options)
+QString runFileDialog(const ScopedDialog<QFileDialog> &dialog, QString *selectedFilter, QFileDialog::Options options,
+                      const QString &file = QString())
 {
     // Setting modes changes options, so these come after.
     dialog->setOptions(options);
     if (selectedFilter && !selectedFilter->isEmpty()) {
         dialog->selectNameFilter(*selectedFilter);
+    }
+    if (!file.isEmpty()) {
+        // After the filter, which would put its own suffix in the place of the name's.
+        dialog->selectFile(file);
     }
     if (!runToAcceptance(dialog)) {
         return QString();
@@ -323,10 +328,8 @@ QString NoHelpButtonFileDialog::getSaveFileName(QWidget *parent, const QString &
     ScopedDialog<QFileDialog> dialog(parent, caption, namesFile ? target.path() : directory, filter);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    if (!target.fileName().isEmpty()) {
-        dialog->selectFile(target.baseName() + QLatin1Char('.') + target.completeSuffix());
-    }
-    return runFileDialog(dialog, selectedFilter, options);
+    const QString file = target.baseName() + QLatin1Char('.') + target.completeSuffix();
+    return runFileDialog(dialog, selectedFilter, options, target.fileName().isEmpty() ? QString() : file);
 }
 
 QString NoHelpButtonFileDialog::getExistingDirectory(QWidget *parent, const QString &caption, const QString &directory,

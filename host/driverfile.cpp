@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 //
-// The simulated driver's file. Apart from the driver, which without one needs no more than Qt 4.8.
+// The simulated driver's file. Apart from the driver, because Qt 4.8 has neither locks nor files to save in one go.
 
 #include "settingsfile.h"
 #include "simulateddriver.h"

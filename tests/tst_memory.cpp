@@ -61,6 +61,12 @@ void *operator new(std::size_t size)
     return memory;
 }
 
+// The toolkit's, which never fails here; a sanitizer would bring its own.
+void *operator new(std::size_t size, const std::nothrow_t & /*unused*/) noexcept
+{
+    return std::malloc(size);
+}
+
 // Inlined without its counterpart, it looks to GCC 14 like a mismatch.
 [[gnu::noinline]] void operator delete(void *memory) noexcept
 {

@@ -19,6 +19,17 @@ bool isSeparator(QChar c)
     return c == QLatin1Char('.') || c == QLatin1Char(',');
 }
 
+/// True for the toolkit's own inputs of decimal numbers. Others, such as those of dates or of hexadecimal numbers, and
+/// the family's own see to what they take themselves.
+bool takesPlainNumber(const QAbstractSpinBox &spin)
+{
+    const QByteArray name = spin.metaObject()->className();
+    const QVariant base = spin.property("displayIntegerBase");
+    return (name == "QSpinBox" || name == "QDoubleSpinBox" || name.startsWith("QInputDialog")) &&
+           (!base.isValid() || base.toInt() == 10) && spin.property("prefix").toString().isEmpty() &&
+           spin.specialValueText().isEmpty();
+}
+
 /// Decimals that the input takes.
 int decimalsOf(const QAbstractSpinBox &spin)
 {
@@ -137,8 +148,10 @@ void prepareInputs(QWidget &window)
     for (QLineEdit *edit : edits) {
         QAbstractSpinBox *spin = qobject_cast<QAbstractSpinBox *>(edit->parentWidget());
         if (spin) {
-            edit->setValidator(new NumberValidator(spin));
-        } else if (edit->inputMask().isEmpty()) {
+            if (takesPlainNumber(*spin)) {
+                edit->setValidator(new NumberValidator(spin));
+            }
+        } else if (edit->inputMask().isEmpty() && !edit->validator()) {
             edit->setValidator(new SingleLineValidator(edit));
         }
     }

@@ -93,7 +93,7 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
     const bool isRich = Qt::mightBeRichText(text);
     const QString shown = isRich ? ShownText::cutRich(text) : ShownText::cut(text);
     ScopedDialog<QMessageBox> box(icon, title, shown, buttons, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    box->setToolTip(isRich && shown != text ? text : ShownText::toolTip(text, shown));
+    box->setToolTip(isRich ? ShownText::richToolTip(text, shown) : ShownText::toolTip(text, shown));
     makeGuest(*box);
     box->setDefaultButton(defaultButton);
     if (shown.size() > WideTextLength) {
@@ -189,6 +189,7 @@ QString runFileDialog(const ScopedDialog<QFileDialog> &dialog, QString *selected
 NoHelpButtonDialog::NoHelpButtonDialog(QWidget *parent) : QDialog(parent)
 {
     makeGuest(*this);
+    failures[this] = nullptr;
 }
 
 NoHelpButtonDialog::~NoHelpButtonDialog()

@@ -33,7 +33,7 @@ template <class Talk>
 bool converse(QWidget *window, const QNoxPaycard &driver, Talk talk)
 {
     const QPointer<QWidget> self(window);
-    const QNoxPaycard wrapper(driver);
+    const QNoxPaycard wrapper(driver); // NOLINT(performance-unnecessary-copy-initialization): outlives the window's
     const InputBlock block(window);
     talk(wrapper);
     return self;

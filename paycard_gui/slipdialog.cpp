@@ -55,7 +55,7 @@ SlipDialog::SlipDialog(QNoxSettings &document, QWidget *parent)
         {HideCardKey, [this](const QVariant &) { ui->checkHideCard->setChecked(true); },
          [this] { return ui->checkHideCard->isChecked(); }},
     };
-    loadSettings();
+    SlipDialog::loadSettings();
 }
 
 SlipDialog::~SlipDialog() = default;

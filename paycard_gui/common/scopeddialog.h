@@ -19,7 +19,7 @@ public:
         // Memory may run out for the pointer after there was enough for the dialog.
         std::unique_ptr<Dialog> made(new Dialog(std::forward<Arguments>(arguments)...));
         dialog = made.get();
-        made.release();
+        static_cast<void>(made.release());
     }
     ScopedDialog(const ScopedDialog &) = delete;
     ScopedDialog &operator=(const ScopedDialog &) = delete;

@@ -62,7 +62,7 @@ QString cutLines(const QString &text, int maxLength)
 
 QString ShownText::cut(const QString &text)
 {
-    const QString shown = beginning(text, MaxLength);
+    QString shown = beginning(text, MaxLength);
     int lines = 1;
     for (int i = 0; i < shown.size(); ++i) {
         if (shown.at(i) == QLatin1Char('\n') && ++lines > MaxLines) {

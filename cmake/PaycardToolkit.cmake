@@ -5,7 +5,7 @@
 #   PAYCARD_QT_LIBRARIES   what the library links
 #   paycard_add_resources  compiles a resource file: <variable> <file>
 #
-# The reference host needs Qt 5 or 6; with Qt 4 only the parts of it that the tests use are built.
+# The reference host needs Qt 5 or 6; with Qt 4 only the parts of the test kit that the tests use are built.
 
 set(PAYCARD_QT Qt${PAYCARD_QT_VERSION})
 

@@ -2,9 +2,9 @@
 #include "cashregisterwindow.h"
 
 #include "common/inputs.h"
-#include "librarypaycard.h"
-#include "settingsdocument.h"
-#include "simulateddriver.h"
+#include "testing/librarypaycard.h"
+#include "testing/settingsdocument.h"
+#include "testing/simulateddriver.h"
 #include "ui_cashregisterwindow.h"
 
 #include <QFileDialog>

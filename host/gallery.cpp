@@ -2,9 +2,9 @@
 #include "gallery.h"
 
 #include "cashregisterwindow.h"
-#include "librarypaycard.h"
-#include "modalscript.h"
-#include "simulateddriver.h"
+#include "testing/librarypaycard.h"
+#include "testing/modalscript.h"
+#include "testing/simulateddriver.h"
 #include "windowtour.h"
 
 #include <QApplication>

@@ -2,8 +2,8 @@
 #include "cashregisterwindow.h"
 #include "common/qtcompat.h"
 #include "gallery.h"
-#include "librarypaycard.h"
-#include "simulateddriver.h"
+#include "testing/librarypaycard.h"
+#include "testing/simulateddriver.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -126,7 +126,7 @@ int run(const QCommandLineParser &parser, const Options &options)
     SimulatedDriver driver;
     QString reason = loadSettings(driver, parser, options);
     LibraryPaycard library;
-    if (!reason.isEmpty() || !library.load(LibraryPaycard::defaultPath(), &reason)) {
+    if (!reason.isEmpty() || !library.load(LibraryPaycard::defaultPath(PAYCARD_GUI_LIBRARY), &reason)) {
         return fail(Failed, reason);
     }
     driver.operation = exampleOperation();

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "windowtour.h"
 
-#include "librarypaycard.h"
-#include "modalscript.h"
-#include "simulateddriver.h"
+#include "testing/librarypaycard.h"
+#include "testing/modalscript.h"
+#include "testing/simulateddriver.h"
 
 #include <QMap>
 #include <QPointer>

@@ -3,9 +3,9 @@
 #define REGISTER_H
 
 #include "common/qnoxsettings.h"
-#include "modalscript.h"
 #include "paycard_gui.h"
-#include "simulateddriver.h"
+#include "testing/modalscript.h"
+#include "testing/simulateddriver.h"
 
 #include <QMessageBox>
 #include <QtTest>

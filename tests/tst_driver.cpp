@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "simulateddriver.h"
+#include "testing/simulateddriver.h"
 
 #include <QtTest>
 

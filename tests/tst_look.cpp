@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "librarypaycard.h"
-#include "simulateddriver.h"
+#include "testing/librarypaycard.h"
+#include "testing/simulateddriver.h"
 #include "windowtour.h"
 
 #include <QAccessible>
@@ -218,7 +218,7 @@ void LookTest::windows()
 
     LibraryPaycard library;
     QString reason;
-    QVERIFY2(library.load(LibraryPaycard::defaultPath(), &reason), qPrintable(reason));
+    QVERIFY2(library.load(LibraryPaycard::defaultPath(PAYCARD_GUI_LIBRARY), &reason), qPrintable(reason));
     Operation operation;
     operation.sum = 500;
     operation.operatorIndex = 0;

@@ -3,7 +3,7 @@
 #define SIMULATEDDRIVER_H
 
 #include "common/ipaycard.h"
-#include "settingsdocument.h"
+#include "testing/settingsdocument.h"
 
 #include <QList>
 #include <QMap>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "librarypaycard.h"
+#include "testing/librarypaycard.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -12,15 +12,14 @@ QStringList LibraryPaycard::functions()
     return {"ShowProperties", "SelectOperator", "CommissionAddition", "ConfirmPayment", "AskParams"};
 }
 
-QString LibraryPaycard::defaultPath()
+QString LibraryPaycard::defaultPath(const QString &otherwise)
 {
     QString chosen = QString::fromLocal8Bit(qgetenv("PAYCARD_GUI"));
     if (!chosen.isEmpty()) {
         return chosen;
     }
-    const QFileInfo built(QStringLiteral(PAYCARD_GUI_LIBRARY));
-    const QString beside = QDir(QCoreApplication::applicationDirPath()).filePath(built.fileName());
-    return QFile::exists(beside) ? beside : built.filePath();
+    const QString beside = QDir(QCoreApplication::applicationDirPath()).filePath(QFileInfo(otherwise).fileName());
+    return QFile::exists(beside) ? beside : otherwise;
 }
 
 bool LibraryPaycard::load(const QString &path, QString *reason)

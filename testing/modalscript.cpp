@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "modalscript.h"
+#include "testing/modalscript.h"
 
 #include <QAbstractButton>
 #include <QApplication>

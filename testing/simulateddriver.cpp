@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "simulateddriver.h"
+#include "testing/simulateddriver.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -16,7 +16,7 @@
 // A resource of a static library has to be asked for, from outside any namespace.
 static void initResources()
 {
-    Q_INIT_RESOURCE(host);
+    Q_INIT_RESOURCE(paycard_testing);
 }
 
 namespace {
@@ -124,13 +124,15 @@ QStringList SimulatedDriver::faults()
 QStringList SimulatedDriver::samples()
 {
     initResources();
-    return QDir(QStringLiteral(":/samples")).entryList().replaceInStrings(QStringLiteral(".xml"), QString());
+    return QDir(QStringLiteral(":/paycard_testing/samples"))
+        .entryList()
+        .replaceInStrings(QStringLiteral(".xml"), QString());
 }
 
 QString SimulatedDriver::sample(const QString &name)
 {
     initResources();
-    QFile file(QStringLiteral(":/samples/%1.xml").arg(name));
+    QFile file(QStringLiteral(":/paycard_testing/samples/%1.xml").arg(name));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 

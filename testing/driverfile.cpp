@@ -2,8 +2,8 @@
 //
 // The simulated driver's file. Apart from the driver, because Qt 4.8 has neither locks nor files to save in one go.
 
-#include "settingsfile.h"
-#include "simulateddriver.h"
+#include "testing/settingsfile.h"
+#include "testing/simulateddriver.h"
 
 bool SimulatedDriver::openSettings(const QString &path, QString *reason)
 {

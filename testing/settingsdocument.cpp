@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "settingsdocument.h"
+#include "testing/settingsdocument.h"
 
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>

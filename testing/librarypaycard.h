@@ -20,8 +20,8 @@ public:
     static QStringList functions();
 
     /// The library that load() takes: the one that the environment variable PAYCARD_GUI names, else the one
-    /// beside this program, else the one that was built with it.
-    static QString defaultPath();
+    /// beside this program, else this one: a path, or a name for which the system's loader knows the place.
+    static QString defaultPath(const QString &otherwise = QStringLiteral("libpaycard_gui.so.9"));
 
     /// False, with the reason, when there is no such library or one of its functions is missing.
     bool load(const QString &path, QString *reason);

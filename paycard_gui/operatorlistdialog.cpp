@@ -20,8 +20,9 @@ OperatorListDialog::OperatorListDialog(QNoxSettings &document, QWidget *parent)
     : NoHelpButtonDialog(parent), ui(new Ui_OperatorListDialog), settings(document)
 {
     ui->setupUi(this);
-    // The list itself asks for a size that knows nothing of the font.
-    ui->lwOperators->setMinimumSize(fontMetrics().averageCharWidth() * NameWidth, fontMetrics().height() * Lines);
+    // The list itself asks for a size that knows nothing of the font. It leaves room for the buttons on a small screen.
+    const QSize wanted(fontMetrics().averageCharWidth() * NameWidth, fontMetrics().height() * Lines);
+    ui->lwOperators->setMinimumSize(wanted.boundedTo(QtCompat::availableGeometry(*this).size() / 2));
     loadSettings();
     enableEditing(false);
     adjustSize();

@@ -2,7 +2,6 @@
 #include "common/dialog_about.h"
 
 #include "common/showntext.h"
-#include "common/windowfit.h"
 #include "ui_dialog_about.h"
 
 #include <QHeaderView>
@@ -72,7 +71,6 @@ DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion
     : NoHelpButtonDialog(parent), ui(new Ui_DialogAbout)
 {
     ui->setupUi(this);
-    makeScrollable(ui->contents);
     setPictures();
     setDriverName(driverName, driverVersion);
     setGuiName(guiName, guiVersion);

@@ -10,7 +10,6 @@
 #include <QChildEvent>
 #include <QComboBox>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QInputDialog>
 #include <QPointer>
 #include <QPushButton>
@@ -54,8 +53,8 @@ void makeGuest(QWidget &window)
     new GuestWindows(&window);
 }
 
-/// For people, touch screens and full-screen hosts; to be done when the window is complete.
-void prepareToShow(QWidget &window)
+/// For people and touch screens; to be done when the window is complete.
+void prepareToUse(QWidget &window)
 {
     if (!qobject_cast<QFileDialog *>(&window)) {
         prepareInputs(window);
@@ -73,17 +72,6 @@ void prepareToShow(QWidget &window)
                 {widget->minimumHeight(), widget->minimumSizeHint().height(), NoHelpButtonDialog::TouchHeight}));
         }
     }
-    QtCompat::keepAboveActiveWindow(window);
-}
-
-/// Characters from which on a message box is wider than the toolkit makes it, so that it is not too high.
-const int WideTextLength = 400;
-
-void widen(QMessageBox &box)
-{
-    QGridLayout *layout = qobject_cast<QGridLayout *>(box.layout());
-    const int width = QtCompat::availableGeometry(box).width() * 3 / 4;
-    layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
 }
 
 QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
@@ -96,10 +84,9 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
     box->setToolTip(isRich ? ShownText::richToolTip(text, shown) : ShownText::toolTip(text, shown));
     makeGuest(*box);
     box->setDefaultButton(defaultButton);
-    if (shown.size() > WideTextLength) {
-        widen(*box);
-    }
-    prepareToShow(*box);
+    prepareToUse(*box);
+    fitText(*box);
+    QtCompat::keepAboveActiveWindow(*box);
     return static_cast<QMessageBox::StandardButton>(box->exec());
 }
 
@@ -108,7 +95,8 @@ template <class Dialog>
 bool runToAcceptance(const ScopedDialog<Dialog> &dialog)
 {
     makeGuest(*dialog);
-    prepareToShow(*dialog);
+    prepareToUse(*dialog);
+    QtCompat::keepAboveActiveWindow(*dialog);
     return dialog->exec() == QDialog::Accepted && dialog;
 }
 
@@ -212,8 +200,9 @@ int NoHelpButtonDialog::exec()
     const QPointer<NoHelpButtonDialog> self(this);
     int code = Rejected;
     if (!failures[this]) {
-        prepareToShow(*this);
+        prepareToUse(*this);
         growToContents(*this);
+        QtCompat::keepAboveActiveWindow(*this);
         code = QDialog::exec();
     }
     if (!self) {

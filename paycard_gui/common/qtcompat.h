@@ -129,6 +129,17 @@ inline QRect availableGeometry(const QWidget &widget)
 #endif
 }
 
+/// Whether the widget's pixels are not whole numbers of the screen's.
+inline bool isScaledByFraction(const QWidget &widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
+    return widget.devicePixelRatioF() != static_cast<int>(widget.devicePixelRatioF());
+#else
+    Q_UNUSED(widget);
+    return false;
+#endif
+}
+
 /// Whether the application object has been created to show widgets. That of the oldest release may have been told
 /// not to, though its class is the same.
 inline bool showsWidgets()

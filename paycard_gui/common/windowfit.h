@@ -2,14 +2,17 @@
 #ifndef WINDOWFIT_H
 #define WINDOWFIT_H
 
+class QMessageBox;
 class QWidget;
 
-/// Makes the window as large as its contents need it to be, at least. The toolkit does not see to the height of
-/// wrapped texts: not once a window is shown, and with its oldest release never. What a scroll area of the window
-/// hides is shown as far as the screen has room for it.
+/// Makes the window as large as its contents and its title need it to be, at least, but no larger than its screen:
+/// where that is too small, the widget "contents" of its form scrolls, while buttons and error line stay in sight.
+/// The toolkit does not see to the height of wrapped texts: not once a window is shown, and with its oldest release
+/// never.
 void growToContents(QWidget &window);
 
-/// Puts a widget of a form, which is in a box layout, into a scroll area at its place.
-void makeScrollable(QWidget *contents);
+/// The same for a message box, which sees to its size itself except that its text may be longer than the screen is
+/// high: that scrolls then.
+void fitText(QMessageBox &box);
 
 #endif

@@ -164,10 +164,11 @@ void CashRegisterWindow::clearFailures()
 void CashRegisterWindow::showFailures()
 {
     ui->twFailures->clear();
-    const QMap<QString, Failure> &failures = driver.failures();
-    for (auto failure = failures.cbegin(); failure != failures.cend(); ++failure) {
-        addLine(ui->twFailures, {failure.key(), ui->cmbFault->itemText(static_cast<int>(failure->fault)),
-                                 QString::number(failure->code), failure->text, failure->detail});
+    const QMultiMap<QString, FailureInForce> &failures = driver.failures();
+    for (auto set = failures.cbegin(); set != failures.cend(); ++set) {
+        const Failure &failure = set->failure;
+        addLine(ui->twFailures, {set.key(), ui->cmbFault->itemText(static_cast<int>(failure.fault)),
+                                 QString::number(failure.code), failure.text, failure.detail});
     }
     fitColumns(ui->twFailures);
     ui->pbtnClearFailures->setEnabled(!failures.isEmpty());

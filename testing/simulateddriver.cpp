@@ -44,6 +44,19 @@ bool tellsOfFailure(const char *name)
     return std::strncmp(name, "getResult", 9) == 0 || std::strncmp(name, "getError", 8) == 0;
 }
 
+/// True for the call that has just been counted.
+bool isDue(const FailureInForce &set)
+{
+    const int nth = set.failure.nth;
+    return nth == 0 || set.calls == nth || (set.failure.fault == Fault::GoneAtSecond && set.calls == nth + 1);
+}
+
+/// True for the first of the two calls that GoneAtSecond takes.
+bool isPromise(const FailureInForce &set)
+{
+    return set.failure.nth == 0 ? set.calls % 2 == 1 : set.calls == set.failure.nth;
+}
+
 /// Copies what fits. A text that is as long as the buffer leaves no room for the closing zero and is complete
 /// all the same; one that is longer is cut and closed.
 int copyOut(const QString &text, wchar_t *buffer, int size)
@@ -164,7 +177,19 @@ Failure SimulatedDriver::replaceDocument(const QString &xml)
 
 void SimulatedDriver::failOperation(const QString &name, const Failure &failure)
 {
-    inForce.insert(name, failure);
+    removeFailure(name, failure.argument, failure.nth);
+    inForce.insert(name, {failure});
+}
+
+bool SimulatedDriver::removeFailure(const QString &name, const QString &argument, int nth)
+{
+    for (auto set = inForce.find(name); set != inForce.end() && set.key() == name; ++set) {
+        if (set->failure.argument == argument && set->failure.nth == nth) {
+            inForce.erase(set);
+            return true;
+        }
+    }
+    return false;
 }
 
 void SimulatedDriver::writeDown(const char *name, const QString &arguments, const QString &result)
@@ -190,14 +215,30 @@ void SimulatedDriver::runEvents() const
     loop.exec();
 }
 
-// What a fault writes makes sense for texts only; the other operations give its result.
-std::optional<int> SimulatedDriver::playFailure(const char *name, const QString &arguments, wchar_t *buffer, int size)
+std::optional<FailureInForce> SimulatedDriver::meetFailure(const char *name, const QString &argument)
 {
-    if (!inForce.contains(name)) {
+    std::optional<FailureInForce> met;
+    for (auto set = inForce.find(name); set != inForce.end() && set.key() == QLatin1String(name); ++set) {
+        if (set->failure.argument.isEmpty() || set->failure.argument == argument) {
+            ++set->calls;
+            if (!met && isDue(*set)) {
+                met = *set;
+            }
+        }
+    }
+    return met;
+}
+
+// What a fault writes makes sense for texts only; the other operations give its result.
+std::optional<int> SimulatedDriver::playFailure(const char *name, const QString &argument, const QString &arguments,
+                                                wchar_t *buffer, int size)
+{
+    // A copy, because the host may clear the failures when it hears of the call.
+    const std::optional<FailureInForce> met = meetFailure(name, argument);
+    if (!met) {
         return std::nullopt;
     }
-    // A copy, because the host may clear the failures when it hears of the call.
-    const Failure failure = inForce.value(name);
+    const Failure &failure = met->failure;
     if (failure.fault == Fault::RunsEvents) {
         runEvents();
         return std::nullopt;
@@ -217,8 +258,7 @@ std::optional<int> SimulatedDriver::playFailure(const char *name, const QString 
     case Fault::LargestInt:
         return INT_MAX;
     case Fault::GoneAtSecond:
-        vanishing = !vanishing;
-        return vanishing ? size + 1 : 0;
+        return isPromise(*met) ? size + 1 : 0;
     case Fault::Unterminated:
         if (buffer) {
             std::fill_n(buffer, std::max(size, 0), L'Ж');
@@ -234,11 +274,12 @@ std::optional<int> SimulatedDriver::playFailure(const char *name, const QString 
     return std::nullopt;
 }
 
-int SimulatedDriver::giveText(const char *name, const QString &subject, const QString &text, const QString &shown,
+int SimulatedDriver::giveText(const char *name, const QString &setting, const QString &text, const QString &shown,
                               wchar_t *buffer, int size)
 {
+    const QString subject = setting.isNull() ? QString() : QStringLiteral("«%1», ").arg(setting);
     const QString arguments = subject + QStringLiteral("буфер %1").arg(size);
-    if (const auto result = playFailure(name, arguments, buffer, size)) {
+    if (const auto result = playFailure(name, setting, arguments, buffer, size)) {
         return *result;
     }
     const int length = copyOut(text, buffer, size);
@@ -256,7 +297,7 @@ int SimulatedDriver::giveText(const char *name, const QString &text, wchar_t *bu
 template <class Number>
 int SimulatedDriver::giveNumber(const char *name, Number value, Number *out)
 {
-    if (const auto result = playFailure(name, QString())) {
+    if (const auto result = playFailure(name, QString(), QString())) {
         return *result;
     }
     if (out) {
@@ -268,7 +309,7 @@ int SimulatedDriver::giveNumber(const char *name, Number value, Number *out)
 
 int SimulatedDriver::obey(const char *name, const QString &arguments, const std::function<Failure()> &action)
 {
-    if (const auto result = playFailure(name, arguments)) {
+    if (const auto result = playFailure(name, arguments, arguments)) {
         return *result;
     }
     last = action();
@@ -338,14 +379,14 @@ int SimulatedDriver::getSettingValue(const wchar_t *name, wchar_t *buffer, int s
     const QString setting = fromWide(name);
     const QString value = document.content.value(setting);
     const QString shown = SettingsDocument::shown({setting, value, SettingsDocument::isSecret(setting)});
-    return giveText(__func__, QStringLiteral("«%1», ").arg(setting), value, shown, buffer, size);
+    return giveText(__func__, setting, value, shown, buffer, size);
 }
 
 int SimulatedDriver::getSettingChoices(const wchar_t *name, wchar_t *buffer, int size)
 {
     const QString setting = fromWide(name);
     const QString choices = choicesOf(setting);
-    return giveText(__func__, QStringLiteral("«%1», ").arg(setting), choices, choices, buffer, size);
+    return giveText(__func__, setting, choices, choices, buffer, size);
 }
 
 int SimulatedDriver::getOperation(int *code)

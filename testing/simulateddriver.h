@@ -36,6 +36,19 @@ struct Failure
     int code = 1;
     QString text;
     QString detail;
+    /// Only this one of the calls that the failure is about, counted from 1 on since it was set; 0 for all.
+    /// With 1 the operation fails once and then never again. GoneAtSecond takes the next call along.
+    int nth = 0;
+    /// Only calls with this argument, empty for any: the number that is set, or the name of the setting that is
+    /// asked for. The other operations have none.
+    QString argument = {};
+};
+
+/// A failure that was set, and how many calls it has been about since.
+struct FailureInForce
+{
+    Failure failure;
+    int calls = 0;
 };
 
 /// The payment or other operation under way. Amounts in roubles.
@@ -97,11 +110,14 @@ public:
 
     Operation operation;
 
-    /// Makes an operation fail until clearFailures(); a later failure of the same operation replaces it.
+    /// Makes an operation fail until the failure is removed. A later one with the same argument and number
+    /// replaces it; of several that are about the same call the latest takes place.
     void failOperation(const QString &name, const Failure &failure);
+    /// Takes away the failure with this argument and number. False when there is none.
+    bool removeFailure(const QString &name, const QString &argument = QString(), int nth = 0);
     void clearFailures() { inForce.clear(); }
-    /// The failures in force, by operation.
-    const QMap<QString, Failure> &failures() const { return inForce; }
+    /// The failures in force by operation, of each the latest first.
+    const QMultiMap<QString, FailureInForce> &failures() const { return inForce; }
 
     const QList<DriverCall> &journal() const { return calls; }
     void clearJournal() { calls.clear(); }
@@ -153,9 +169,12 @@ private:
     };
 
     // The shapes of the operations: each plays the failure in force or answers, and writes the call down.
-    std::optional<int> playFailure(const char *name, const QString &arguments, wchar_t *buffer = nullptr, int size = 0);
+    /// The failure that this call meets. Whatever it is about, it counts.
+    std::optional<FailureInForce> meetFailure(const char *name, const QString &argument);
+    std::optional<int> playFailure(const char *name, const QString &argument, const QString &arguments,
+                                   wchar_t *buffer = nullptr, int size = 0);
     void runEvents() const;
-    int giveText(const char *name, const QString &subject, const QString &text, const QString &shown, wchar_t *buffer,
+    int giveText(const char *name, const QString &setting, const QString &text, const QString &shown, wchar_t *buffer,
                  int size);
     int giveText(const char *name, const QString &text, wchar_t *buffer, int size);
     template <class Number>
@@ -172,13 +191,11 @@ private:
     std::shared_ptr<SettingsFile> file;
     /// Saves the text in it and gives the reason when that fails. None while the settings are kept in memory only.
     std::function<QString(const QByteArray &)> save;
-    QMap<QString, Failure> inForce;
+    QMultiMap<QString, FailureInForce> inForce;
     /// What the error operations tell of; code 0 after a success.
     Failure last;
     QList<DriverCall> calls;
     int shownFlag = -1;
-    /// The text that GoneAtSecond has promised last is still to be given.
-    bool vanishing = false;
 };
 
 #endif

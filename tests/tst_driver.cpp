@@ -7,7 +7,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-/// The file that the simulated driver keeps its settings in.
+/// The simulated driver's own behaviour: its failures, and the file that it keeps its settings in.
 class DriverTest : public QObject
 {
     Q_OBJECT
@@ -17,6 +17,7 @@ private slots:
     void notOpened();
     void mode();
     void full();
+    void failures();
 
 private:
     QTemporaryDir directory;
@@ -93,6 +94,53 @@ void DriverTest::full()
     QVERIFY2(reason.contains(qt_error_string(EFBIG)), qPrintable(reason));
     QCOMPARE(driver.settings(), Document);
     QCOMPARE(QFileInfo(directory.filePath("full")).size(), qint64(Document.size()));
+}
+
+void DriverTest::failures()
+{
+    const auto refusal = [](int code, int nth, const char *argument = "") {
+        return Failure{Fault::Refuse, code, QString(), QString(), nth, argument};
+    };
+    const struct
+    {
+        QList<Failure> set;
+        QList<int> codes; // of setPropertiesShown with 1, 0, 1, 0, 1
+    } rows[] = {
+        {{refusal(5, 0)}, {5, 5, 5, 5, 5}},
+        {{refusal(5, 1)}, {5, 0, 0, 0, 0}},
+        {{refusal(5, 3)}, {0, 0, 5, 0, 0}},
+        {{refusal(5, 0, "0")}, {0, 5, 0, 5, 0}},
+        {{refusal(5, 2, "1")}, {0, 0, 5, 0, 0}},
+        {{refusal(5, 0, "1"), refusal(6, 0, "0")}, {5, 6, 5, 6, 5}},
+        {{refusal(5, 0), refusal(6, 2)}, {5, 6, 5, 5, 5}},
+        {{refusal(5, 2), refusal(6, 2)}, {0, 6, 0, 0, 0}},
+    };
+    for (const auto &row : rows) {
+        SimulatedDriver driver;
+        for (const Failure &failure : row.set) {
+            driver.failOperation("setPropertiesShown", failure);
+        }
+        QList<int> codes;
+        for (int i = 0; i < 5; ++i) {
+            const int result = driver.setPropertiesShown(1 - i % 2);
+            codes << -1;
+            QCOMPARE(driver.getResultCode(&codes.last()), 0);
+            QCOMPARE(result, codes.last() == 0 ? 0 : -1);
+        }
+        QCOMPARE(codes, row.codes);
+        const Failure &last = row.set.last();
+        QVERIFY(!driver.removeFailure("setPropertiesShown", last.argument, last.nth + 1));
+        QVERIFY(driver.removeFailure("setPropertiesShown", last.argument, last.nth));
+        QVERIFY(!driver.removeFailure("setPropertiesShown", last.argument, last.nth));
+    }
+    SimulatedDriver driver;
+    driver.failOperation("getSettingChoices", {Fault::GoneAtSecond, 1, "", "", 2, "Model"});
+    QString answers;
+    for (const wchar_t *name : {L"Model", L"Port", L"Model", L"Model", L"Model"}) {
+        const int length = driver.getSettingChoices(name, nullptr, 4);
+        answers += QString::number(qMin(length, 9));
+    }
+    QCOMPARE(answers, QString("99509"));
 }
 
 QTEST_GUILESS_MAIN(DriverTest)

@@ -5,10 +5,23 @@
 #include "testing/settingsfile.h"
 #include "testing/simulateddriver.h"
 
+std::shared_ptr<SettingsFile> SimulatedDriver::fileAt(const QString &path) const
+{
+    return file && file->isAt(path) ? file : std::make_shared<SettingsFile>(path);
+}
+
+void SimulatedDriver::keepIn(const std::shared_ptr<SettingsFile> &place)
+{
+    file = place;
+    save = [place](const QByteArray &content) {
+        const QString failure = place->write(content);
+        return failure.isEmpty() ? failure : QStringLiteral("%1: %2").arg(place->path(), failure);
+    };
+}
+
 bool SimulatedDriver::openSettings(const QString &path, QString *reason)
 {
-    // Its own file is not locked for this driver.
-    const std::shared_ptr<SettingsFile> opened = file && file->isAt(path) ? file : std::make_shared<SettingsFile>(path);
+    const std::shared_ptr<SettingsFile> opened = fileAt(path);
     QByteArray bytes = EmptyDocument;
     QString problem = opened->lock();
     if (problem.isEmpty()) {
@@ -22,13 +35,24 @@ bool SimulatedDriver::openSettings(const QString &path, QString *reason)
     }
     if (problem.isEmpty()) {
         document = read;
-        file = opened;
-        save = [opened](const QByteArray &content) {
-            const QString failure = opened->write(content);
-            return failure.isEmpty() ? failure : QStringLiteral("%1: %2").arg(opened->path(), failure);
-        };
+        keepIn(opened);
     } else if (reason) {
         *reason = QStringLiteral("Настройки %1 не открыты: %2").arg(path, problem);
+    }
+    return problem.isEmpty();
+}
+
+bool SimulatedDriver::saveSettings(const QString &path, QString *reason)
+{
+    const std::shared_ptr<SettingsFile> target = fileAt(path);
+    QString problem = target->lock();
+    if (problem.isEmpty()) {
+        problem = target->write(document.text.toUtf8());
+    }
+    if (problem.isEmpty()) {
+        keepIn(target);
+    } else if (reason) {
+        *reason = QStringLiteral("Настройки %1 не сохранены: %2").arg(path, problem);
     }
     return problem.isEmpty();
 }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "testing/simulateddriver.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QTimer>
@@ -109,6 +111,23 @@ QString choicesOf(const QString &setting)
 
 } // namespace
 
+/// A call that is being answered.
+struct SimulatedDriver::Call
+{
+    Call(const char *called, const QString &condition, const QString &shown)
+        : name(called), argument(condition), arguments(shown)
+    {
+        clock.start();
+    }
+
+    const char *name;
+    /// What a failure's argument is compared with, and all of them for people.
+    const QString argument;
+    const QString arguments;
+    const qint64 time = QDateTime::currentMSecsSinceEpoch();
+    QElapsedTimer clock;
+};
+
 SimulatedDriver::Document::Document(const QString &xml) : text(xml), content(xml), shown(content.toPeople()) {}
 
 QStringList SimulatedDriver::operations()
@@ -192,12 +211,12 @@ bool SimulatedDriver::removeFailure(const QString &name, const QString &argument
     return false;
 }
 
-void SimulatedDriver::writeDown(const char *name, const QString &arguments, const QString &result)
+void SimulatedDriver::writeDown(const Call &call, const QString &result)
 {
     if (calls.size() >= JournalLimit) {
         calls.removeFirst();
     }
-    calls.append({name, arguments, result});
+    calls.append({call.name, call.arguments, result, call.time, call.clock.nsecsElapsed() / 1000});
     if (onCall) {
         onCall();
     }
@@ -215,11 +234,12 @@ void SimulatedDriver::runEvents() const
     loop.exec();
 }
 
-std::optional<FailureInForce> SimulatedDriver::meetFailure(const char *name, const QString &argument)
+std::optional<FailureInForce> SimulatedDriver::meetFailure(const Call &call)
 {
+    const QLatin1String name(call.name);
     std::optional<FailureInForce> met;
-    for (auto set = inForce.find(name); set != inForce.end() && set.key() == QLatin1String(name); ++set) {
-        if (set->failure.argument.isEmpty() || set->failure.argument == argument) {
+    for (auto set = inForce.find(name); set != inForce.end() && set.key() == name; ++set) {
+        if (set->failure.argument.isEmpty() || set->failure.argument == call.argument) {
             ++set->calls;
             if (!met && isDue(*set)) {
                 met = *set;
@@ -230,11 +250,10 @@ std::optional<FailureInForce> SimulatedDriver::meetFailure(const char *name, con
 }
 
 // What a fault writes makes sense for texts only; the other operations give its result.
-std::optional<int> SimulatedDriver::playFailure(const char *name, const QString &argument, const QString &arguments,
-                                                wchar_t *buffer, int size)
+std::optional<int> SimulatedDriver::playFailure(const Call &call, wchar_t *buffer, int size)
 {
     // A copy, because the host may clear the failures when it hears of the call.
-    const std::optional<FailureInForce> met = meetFailure(name, argument);
+    const std::optional<FailureInForce> met = meetFailure(call);
     if (!met) {
         return std::nullopt;
     }
@@ -243,11 +262,11 @@ std::optional<int> SimulatedDriver::playFailure(const char *name, const QString 
         runEvents();
         return std::nullopt;
     }
-    writeDown(name, arguments,
+    writeDown(call,
               QStringLiteral("сбой «%1»: %2").arg(faults().at(static_cast<int>(failure.fault)), describe(failure)));
     switch (failure.fault) {
     case Fault::Refuse:
-        if (!tellsOfFailure(name)) {
+        if (!tellsOfFailure(call.name)) {
             last = failure;
         }
         return -1;
@@ -278,12 +297,12 @@ int SimulatedDriver::giveText(const char *name, const QString &setting, const QS
                               wchar_t *buffer, int size)
 {
     const QString subject = setting.isNull() ? QString() : QStringLiteral("«%1», ").arg(setting);
-    const QString arguments = subject + QStringLiteral("буфер %1").arg(size);
-    if (const auto result = playFailure(name, setting, arguments, buffer, size)) {
+    const Call call(name, setting, subject + QStringLiteral("буфер %1").arg(size));
+    if (const auto result = playFailure(call, buffer, size)) {
         return *result;
     }
     const int length = copyOut(text, buffer, size);
-    writeDown(name, arguments,
+    writeDown(call,
               QStringLiteral("%1%2: «%3»")
                   .arg(QString::number(length), length > size ? QStringLiteral(", не поместилось") : QString(), shown));
     return length;
@@ -297,23 +316,25 @@ int SimulatedDriver::giveText(const char *name, const QString &text, wchar_t *bu
 template <class Number>
 int SimulatedDriver::giveNumber(const char *name, Number value, Number *out)
 {
-    if (const auto result = playFailure(name, QString(), QString())) {
+    const Call call(name, QString(), QString());
+    if (const auto result = playFailure(call)) {
         return *result;
     }
     if (out) {
         *out = value;
     }
-    writeDown(name, QString(), QString::number(value));
+    writeDown(call, QString::number(value));
     return 0;
 }
 
 int SimulatedDriver::obey(const char *name, const QString &arguments, const std::function<Failure()> &action)
 {
-    if (const auto result = playFailure(name, arguments, arguments)) {
+    const Call call(name, arguments, arguments);
+    if (const auto result = playFailure(call)) {
         return *result;
     }
     last = action();
-    writeDown(name, arguments, last.code == Success ? QStringLiteral("выполнено") : describe(last));
+    writeDown(call, last.code == Success ? QStringLiteral("выполнено") : describe(last));
     return last.code == Success ? 0 : -1;
 }
 

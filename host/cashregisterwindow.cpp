@@ -86,7 +86,7 @@ void CashRegisterWindow::arrange()
     ui->failures->setAutoFillBackground(false);
     ui->splitterTop->setStretchFactor(1, 1);
     // Weights, not pixels.
-    ui->splitterMain->setSizes({500, 200});
+    ui->splitterMain->setSizes({540, 180});
     ui->splitterJournal->setStretchFactor(0, 3);
     ui->splitterJournal->setStretchFactor(1, 1);
     const QStringList widest[] = {{"00:00:00.000"}, {"00000,000"}, SimulatedDriver::operations(), {"буфер 1024"}};

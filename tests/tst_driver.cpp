@@ -62,6 +62,13 @@ void DriverTest::notOpened()
     QVERIFY(driver.settingsFile().isEmpty());
     holder.closeSettings();
     QVERIFY(driver.openSettings(directory.filePath("held"), &said));
+    QVERIFY(driver.replaceSettings(Document, &said) && driver.saveSettings(directory.filePath("saved"), &said));
+    QVERIFY(!holder.saveSettings(directory.filePath("saved"), &said) && !holder.saveSettings("/no/directory", &said));
+    QVERIFY(holder.openSettings(directory.filePath("held"), &said));
+    QCOMPARE(driver.settingsFile(), directory.filePath("saved"));
+    driver.closeSettings();
+    QVERIFY(holder.openSettings(directory.filePath("saved"), &said));
+    QCOMPARE(holder.settings(), Document);
 }
 
 void DriverTest::mode()

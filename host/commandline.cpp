@@ -171,7 +171,7 @@ QString readFailure(const QString &text, QPair<QString, Failure> *failure)
     if (!SimulatedDriver::operations().contains(operation)) {
         return QString("нет операции «%1»").arg(operation);
     }
-    const QString problem = text.contains(':') ? assign(membersOf(failure->second), text.section(':', 1)) : QString();
+    QString problem = text.contains(':') ? assign(membersOf(failure->second), text.section(':', 1)) : QString();
     if (problem.isEmpty() && !failure->second.argument.isEmpty() && !SimulatedDriver::takesArgument(operation)) {
         return QString("у операции %1 нет аргумента").arg(operation);
     }

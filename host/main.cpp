@@ -130,7 +130,7 @@ int main(int argc, char **argv)
     if (!hasPlatform || (needsNoScreen && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    // The platform complains when it has none.
+    // Without a runtime directory the platform would complain.
     std::optional<QTemporaryDir> runtimeDirectory;
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen" && qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
         runtimeDirectory.emplace();

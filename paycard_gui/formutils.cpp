@@ -2,6 +2,7 @@
 #include "formutils.h"
 
 #include "common/nohelpbuttondialogs.h"
+#include "common/onscreenkeyboard.h"
 #include "common/showntext.h"
 #include "common/windowfit.h"
 
@@ -14,6 +15,7 @@
 void showError(QLabel *line, const QString &text)
 {
     ShownText::show(line, text);
+    keepAboveKeyboard(*line);
     if (line->window()->isVisible()) {
         growToContents(*line->window());
     }

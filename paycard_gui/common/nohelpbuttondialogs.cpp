@@ -2,6 +2,7 @@
 #include "common/nohelpbuttondialogs.h"
 
 #include "common/inputs.h"
+#include "common/onscreenkeyboard.h"
 #include "common/scopeddialog.h"
 #include "common/showntext.h"
 #include "common/windowfit.h"
@@ -74,6 +75,13 @@ void prepareToUse(QWidget &window)
     }
 }
 
+/// Above other windows of the host and above an on-screen keyboard; to be done when the window has its size.
+void showOnTop(QWidget &window)
+{
+    QtCompat::keepAboveActiveWindow(window);
+    keepAboveKeyboard(window);
+}
+
 QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
                                           const QString &text, QMessageBox::StandardButtons buttons,
                                           QMessageBox::StandardButton defaultButton)
@@ -86,7 +94,7 @@ QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *paren
     box->setDefaultButton(defaultButton);
     prepareToUse(*box);
     fitText(*box);
-    QtCompat::keepAboveActiveWindow(*box);
+    showOnTop(*box);
     return static_cast<QMessageBox::StandardButton>(box->exec());
 }
 
@@ -96,7 +104,7 @@ bool runToAcceptance(const ScopedDialog<Dialog> &dialog)
 {
     makeGuest(*dialog);
     prepareToUse(*dialog);
-    QtCompat::keepAboveActiveWindow(*dialog);
+    showOnTop(*dialog);
     return dialog->exec() == QDialog::Accepted && dialog;
 }
 
@@ -202,7 +210,7 @@ int NoHelpButtonDialog::exec()
     if (!failures[this]) {
         prepareToUse(*this);
         growToContents(*this);
-        QtCompat::keepAboveActiveWindow(*this);
+        showOnTop(*this);
         code = QDialog::exec();
     }
     if (!self) {

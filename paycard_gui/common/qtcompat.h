@@ -22,6 +22,7 @@
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 #include <QDir>
+#include <QInputMethod>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QPluginLoader>
@@ -126,6 +127,35 @@ inline QRect availableGeometry(const QWidget &widget)
     return widget.screen()->availableGeometry();
 #else
     return QApplication::desktop()->availableGeometry(&widget);
+#endif
+}
+
+/// Has the slot called whenever the on-screen keyboard comes, goes or changes its size, and when the text cursor moves.
+/// The oldest release knows none.
+inline void connectKeyboard(QObject *receiver, const char *slot)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    const QInputMethod *keyboard = QGuiApplication::inputMethod();
+    QObject::connect(keyboard, SIGNAL(visibleChanged()), receiver, slot);
+    QObject::connect(keyboard, SIGNAL(keyboardRectangleChanged()), receiver, slot);
+    QObject::connect(keyboard, SIGNAL(cursorRectangleChanged()), receiver, slot);
+#else
+    Q_UNUSED(receiver);
+    Q_UNUSED(slot);
+#endif
+}
+
+/// What the on-screen keyboard covers of the screen that the widget is on; empty while there is none.
+inline QRect keyboardGeometry(const QWidget &widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+    const QInputMethod *keyboard = QGuiApplication::inputMethod();
+    return keyboard->isVisible()
+               ? keyboard->keyboardRectangle().toRect().translated(widget.screen()->geometry().topLeft())
+               : QRect();
+#else
+    Q_UNUSED(widget);
+    return QRect();
 #endif
 }
 

@@ -83,17 +83,6 @@ void growToShow(QWidget &window, const QScrollArea &area)
     growBy(window, width + (height > area.height() ? bars.width() : 0) - area.width(), 0);
 }
 
-/// Moves a window that has grown over the edge of its screen.
-void keepOnScreen(QWidget &window)
-{
-    const QRect screen = QtCompat::availableGeometry(window);
-    const QRect frame = window.frameGeometry();
-    const QPoint over(std::max(frame.right() - screen.right(), 0), std::max(frame.bottom() - screen.bottom(), 0));
-    if (window.isVisible() && !over.isNull()) {
-        window.move(std::max(frame.left() - over.x(), screen.left()), std::max(frame.top() - over.y(), screen.top()));
-    }
-}
-
 /// Has the area take the place of a widget.
 void putInPlaceOf(QWidget *widget, QScrollArea *area)
 {
@@ -226,4 +215,14 @@ void growToContents(QWidget &window)
         }
     }
     keepOnScreen(window);
+}
+
+void keepOnScreen(QWidget &window)
+{
+    const QRect screen = QtCompat::availableGeometry(window);
+    const QRect frame = window.frameGeometry();
+    const QPoint over(std::max(frame.right() - screen.right(), 0), std::max(frame.bottom() - screen.bottom(), 0));
+    if (window.isVisible() && !over.isNull()) {
+        window.move(std::max(frame.left() - over.x(), screen.left()), std::max(frame.top() - over.y(), screen.top()));
+    }
 }

@@ -15,4 +15,7 @@ void growToContents(QWidget &window);
 /// high: that scrolls then.
 void fitText(QMessageBox &box);
 
+/// Moves a window that is open and reaches over the lower or right edge of its screen.
+void keepOnScreen(QWidget &window);
+
 #endif

@@ -118,6 +118,7 @@ void KeyboardFollower::follow()
         }
     } else if (input && input->window() == window) {
         goingHome.stop();
+        QtCompat::serveModalWindow(keyboard, *window);
         keepInSight(input, keyboard);
     }
 }

@@ -159,6 +159,24 @@ inline QRect keyboardGeometry(const QWidget &widget)
 #endif
 }
 
+/// Has the on-screen keyboard that covers this part of the screen serve a modal window. One that the toolkit shows as a
+/// window of its own takes no taps otherwise.
+inline void serveModalWindow(const QRect &keyboard, const QWidget &modal)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow *window : windows) {
+        if (window->flags() & Qt::WindowDoesNotAcceptFocus && window->isVisible() &&
+            window->geometry().contains(keyboard.center()) && window->transientParent() != modal.windowHandle()) {
+            window->setTransientParent(modal.windowHandle());
+        }
+    }
+#else
+    Q_UNUSED(keyboard);
+    Q_UNUSED(modal);
+#endif
+}
+
 /// Whether the widget's pixels are not whole numbers of the screen's.
 inline bool isScaledByFraction(const QWidget &widget)
 {

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "testing/contractchecker.h"
+
+#include "testing/checkedpaycard.h"
+#include "testing/contractrules.h"
+#include "testing/settingsdocument.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+/// Texts of a finding that are shown; of more the number.
+const int MostTexts = 3;
+
+bool canBePutBack(const QString &settings)
+{
+    return settings.isEmpty() ? !settings.isNull() : SettingsDocument(settings).isValid();
+}
+
+} // namespace
+
+QStringList ContractChecker::rules()
+{
+    QStringList names;
+    for (const ContractRule &rule : contractRules()) {
+        names.append(QLatin1String(rule.name));
+    }
+    return names;
+}
+
+QStringList ContractChecker::companions(const QString &rule)
+{
+    QStringList names;
+    for (const ContractRule &other : contractRules()) {
+        if (other.show == contractRule(rule).show) {
+            names.append(QLatin1String(other.name));
+        }
+    }
+    return names;
+}
+
+ContractFinding ContractChecker::finding(const QString &rule, Severity severity, const QString &seen)
+{
+    return contractRule(rule).finding(severity, seen);
+}
+
+Severity ContractChecker::worst(const QList<ContractFinding> &findings)
+{
+    Severity worst = Severity::Ok;
+    for (const ContractFinding &finding : findings) {
+        worst = std::max(worst, finding.severity);
+    }
+    return worst;
+}
+
+QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
+{
+    seen.clear();
+    CheckedPayCard checked(
+        driver, [this](const ContractFinding &finding) { note(finding.rule, finding.severity, finding.seen); });
+    const auto report = [this](const char *rule, Severity severity, const QString &text) {
+        note(QLatin1String(rule), severity, text);
+    };
+    ContractSession session{checked, report, mayWrite, QString(), {}};
+    checked.onCall = onCall;
+    checked.onReturn = [&](const QString &operation, double milliseconds) {
+        session.slowest[operation] = std::max(session.slowest.value(operation), milliseconds);
+    };
+    if (mayWrite) {
+        session.original = session.settings();
+        session.mayWrite = canBePutBack(session.original) && session.settings() == session.original;
+    }
+    QSet<void (*)(ContractSession &)> shown;
+    for (const QString &name : wanted) {
+        const ContractRule &rule = contractRule(name);
+        if (onRule) {
+            onRule(name);
+        }
+        if (rule.writes && !session.mayWrite) {
+            note(name, Severity::Skipped,
+                 QLatin1String(mayWrite ? "the settings could not be put back: they are not read well"
+                                        : "not without permission to write"));
+        } else if (!shown.contains(rule.show)) {
+            shown.insert(rule.show);
+            rule.show(session);
+        }
+        seen[name].isShown = true;
+        tell(name);
+    }
+    QList<ContractFinding> findings;
+    for (const QString &name : rules()) {
+        if (seen.contains(name)) {
+            findings.append(findingOf(name));
+        }
+    }
+    return findings;
+}
+
+QString ContractChecker::settings()
+{
+    return ContractSession{driver, [](const char *, Severity, const QString &) {}, false, QString(), {}}.settings();
+}
+
+bool ContractChecker::putBack(const QString &xml)
+{
+    bool done = true;
+    const auto report = [&](const char * /*rule*/, Severity severity, const QString & /*text*/) {
+        done = done && severity != Severity::Error;
+    };
+    ContractSession{driver, report, true, xml, {}}.putBack();
+    return done;
+}
+
+void ContractChecker::note(const QString &rule, Severity severity, const QString &text)
+{
+    Seen &now = seen[rule];
+    if (now.texts.contains(text)) {
+        return;
+    }
+    now.severity = std::max(now.severity, severity);
+    now.texts.append(text);
+    if (now.isShown) {
+        tell(rule);
+    }
+}
+
+ContractFinding ContractChecker::findingOf(const QString &rule) const
+{
+    const Seen &now = *seen.constFind(rule);
+    QString text = now.texts.mid(0, MostTexts).join(QStringLiteral("; "));
+    if (now.texts.size() > MostTexts) {
+        text += QStringLiteral("; and %1 more").arg(now.texts.size() - MostTexts);
+    }
+    return finding(rule, now.severity, text);
+}
+
+void ContractChecker::tell(const QString &rule) const
+{
+    if (onFinding) {
+        onFinding(findingOf(rule));
+    }
+}

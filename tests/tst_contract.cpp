@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "brokendriver.h"
+#include "register.h"
+#include "testing/checkedpaycard.h"
+#include "testing/contractchecker.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+/// The checker of drivers, on a driver that breaks a rule of the contract at a time.
+class ContractTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void breaks_data();
+    void breaks();
+    void skipped();
+    void places();
+    void windows();
+};
+
+namespace {
+
+/// A section of a guide by its place, as one line without markup.
+QString section(const QString &place)
+{
+    QFile file(QString(PAYCARD_SOURCES "/") + place.section('#', 0, 0));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return QString();
+    }
+    QString found;
+    bool isInside = false;
+    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    for (const QString &line : lines) {
+        if (line.startsWith('#')) {
+            QString title = line.section(' ', 1).toLower().remove(QRegularExpression("[^a-z0-9 -]"));
+            isInside = title.replace(' ', '-') == place.section('#', 1);
+        }
+        found += isInside ? line + ' ' : QString();
+    }
+    return found.remove('`').remove("**").simplified();
+}
+
+} // namespace
+
+void ContractTest::breaks_data()
+{
+    QTest::addColumn<int>("index");
+    int index = 0;
+    for (const Breakage &breakage : breakages()) {
+        QTest::newRow(breakage.name) << index++;
+    }
+}
+
+void ContractTest::breaks()
+{
+    QFETCH(int, index);
+    const Breakage breakage = breakages().at(static_cast<std::size_t>(index));
+    BrokenDriver driver;
+    breakage.arrange(driver);
+    const QString before = driver.simulated.settings();
+    ContractChecker checker(driver);
+    checker.mayWrite = true;
+    QStringList broken;
+    QString seen;
+    for (const ContractFinding &finding : checker.check()) {
+        if (finding.severity == Severity::Issue || finding.severity == Severity::Error) {
+            broken += finding.rule;
+            seen += finding.rule + ": " + finding.seen + "\n";
+        }
+    }
+    QVERIFY2(broken == QString(breakage.rules).split(' ', Qt::SkipEmptyParts), qPrintable(seen));
+    QCOMPARE(driver.simulated.settings(), before);
+}
+
+// Without permission the rules that write are left out, and the driver is not told to change anything.
+void ContractTest::skipped()
+{
+    BrokenDriver driver;
+    const QStringList changing = {"setSettings", "setOperatorIndex"};
+    QStringList calls;
+    ContractChecker checker(driver);
+    checker.onCall = [&](const QString &operation) { calls += operation; };
+    const QList<ContractFinding> findings = checker.check();
+    QCOMPARE(findings.size(), ContractChecker::rules().size());
+    const auto skipped = std::count_if(findings.begin(), findings.end(), [](const ContractFinding &finding) {
+        return finding.severity == Severity::Skipped;
+    });
+    QCOMPARE(int(skipped), 8);
+    QVERIFY(calls.contains("getOperatorCommission") && !calls.contains("setSettings"));
+    QVERIFY(!calls.contains("setOperatorIndex"));
+}
+
+// Each rule points at a sentence of the guides.
+void ContractTest::places()
+{
+    for (const QString &rule : ContractChecker::rules()) {
+        const ContractFinding finding = ContractChecker::finding(rule, Severity::Ok, "");
+        QVERIFY2(section(finding.place).contains(finding.expected), qPrintable(rule));
+    }
+}
+
+// In a host the windows get what they would have got without the check, whatever that is.
+void ContractTest::windows()
+{
+    for (const char *operation :
+         {"none", "getSum", "getOperatorName", "getSettings", "getSettingChoices", "setSettings"}) {
+        for (int fault = 0; fault < SimulatedDriver::faults().size(); ++fault) {
+            QStringList results[2];
+            QStringList told;
+            for (QStringList &result : results) {
+                Register shop;
+                shop.driver.replaceSettings(SimulatedDriver::sample("cyberplat"), nullptr);
+                shop.driver.failOperation(operation, {static_cast<Fault>(fault), 12, "сбой", "место"});
+                CheckedPayCard checked(shop.driver, [&](const ContractFinding &finding) { told += finding.rule; });
+                NOX::PayCard::IPayCard &driver =
+                    &result == results ? static_cast<NOX::PayCard::IPayCard &>(shop.driver) : checked;
+                for (const EntryPoint call : {ShowProperties, SelectOperator, CommissionAddition, ConfirmPayment}) {
+                    result += QString::number(ModalScript({}).run([&] { return call(&driver, nullptr); }));
+                }
+                for (const DriverCall &call : shop.driver.journal()) {
+                    result += call.operation + ' ' + call.arguments + ' ' + call.result;
+                }
+            }
+            QCOMPARE(results[1], results[0]);
+            if (operation == QLatin1String("none")) {
+                QCOMPARE(told, QStringList());
+            } else if (static_cast<Fault>(fault) == Fault::ThrowStandard) {
+                QVERIFY2(told.contains("no-throw"), operation);
+            }
+        }
+    }
+}
+
+QTEST_MAIN(ContractTest)
+#include "tst_contract.moc"

@@ -5,9 +5,8 @@
 #include "testing/contractrules.h"
 #include "testing/settingsdocument.h"
 
-#include <QSet>
-
 #include <algorithm>
+#include <set>
 
 namespace {
 
@@ -58,6 +57,7 @@ Severity ContractChecker::worst(const QList<ContractFinding> &findings)
 QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
 {
     seen.clear();
+    pending = wanted;
     CheckedPayCard checked(
         driver, [this](const ContractFinding &finding) { note(finding.rule, finding.severity, finding.seen); });
     const auto report = [this](const char *rule, Severity severity, const QString &text) {
@@ -72,7 +72,7 @@ QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
         session.original = session.settings();
         session.mayWrite = canBePutBack(session.original) && session.settings() == session.original;
     }
-    QSet<void (*)(ContractSession &)> shown;
+    std::set<void (*)(ContractSession &)> shown;
     for (const QString &name : wanted) {
         const ContractRule &rule = contractRule(name);
         if (onRule) {
@@ -82,11 +82,11 @@ QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
             note(name, Severity::Skipped,
                  QLatin1String(mayWrite ? "the settings could not be put back: they are not read well"
                                         : "not without permission to write"));
-        } else if (!shown.contains(rule.show)) {
-            shown.insert(rule.show);
+        } else if (shown.insert(rule.show).second) {
             rule.show(session);
         }
-        seen[name].isShown = true;
+        seen[name]; // kept, if nothing was noted
+        pending.removeOne(name);
         tell(name);
     }
     QList<ContractFinding> findings;
@@ -121,7 +121,7 @@ void ContractChecker::note(const QString &rule, Severity severity, const QString
     }
     now.severity = std::max(now.severity, severity);
     now.texts.append(text);
-    if (now.isShown) {
+    if (!pending.contains(rule)) {
         tell(rule);
     }
 }

@@ -49,7 +49,6 @@ private:
     {
         Severity severity = Severity::Ok;
         QStringList texts;
-        bool isShown = false;
     };
 
     void note(const QString &rule, Severity severity, const QString &text);
@@ -58,6 +57,7 @@ private:
 
     NOX::PayCard::IPayCard &driver;
     QMap<QString, Seen> seen;
+    QStringList pending;
 };
 
 #endif

@@ -156,5 +156,7 @@ void showTimes(ContractSession &session)
     for (QString &operation : slowest) {
         operation += QStringLiteral(" %1 ms").arg(session.slowest.value(operation), 0, 'f', 1);
     }
-    session.report("time", Severity::Ok, QStringLiteral("longest: ") + slowest.join(QStringLiteral(", ")));
+    if (!slowest.isEmpty()) {
+        session.report("time", Severity::Ok, QStringLiteral("longest: ") + slowest.join(QStringLiteral(", ")));
+    }
 }

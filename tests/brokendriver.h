@@ -44,8 +44,14 @@ public:
     std::function<void(const QString &operation, double &value)> onNumber = [](const QString &, double &) {};
     /// False when the document is to be refused.
     std::function<bool(QString &xml)> onSettings = [](QString &) { return true; };
+    std::function<void()> onShown = [] {};
     std::vector<std::unique_ptr<int>> kept;
 
+    int setPropertiesShown(int shown) override
+    {
+        onShown();
+        return ForwardingPayCard::setPropertiesShown(shown);
+    }
     int setSettings(const wchar_t *xml) override
     {
         QString text = QString::fromWCharArray(xml);

@@ -4,6 +4,10 @@
 #include "testing/checkedpaycard.h"
 #include "testing/contractchecker.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -19,6 +23,8 @@ private slots:
     void skipped();
     void places();
     void windows();
+    void program_data();
+    void program();
 };
 
 namespace {
@@ -132,6 +138,64 @@ void ContractTest::windows()
             }
         }
     }
+}
+
+void ContractTest::program_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("breakage");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("line");
+    const QString simulated = PAYCARD_DRIVERS "libsimulated_driver.so";
+    const QString minimal = PAYCARD_DRIVERS "libminimal_driver.so";
+    const auto row = [](const char *name, const QStringList &arguments, int exitCode, const char *line,
+                        const char *breakage = "") {
+        QTest::newRow(name) << arguments << breakage << exitCode << line;
+    };
+    row("minimal", {minimal}, 0, "SKIPPED set-read-back       not without permission to write\n");
+    row("minimal, written", {"--write", minimal}, 0, "ISSUE   set-refused         it was taken. Expected: ");
+    row("broken", {simulated}, 1, "ERROR   amount-finite       getSum: inf. Expected: Amounts are finite (", "endless");
+    row("crash", {simulated}, 1, "ERROR   properties-shown    setPropertiesShown crashed (", "crash");
+    row("hang", {"--timeout", "1", simulated}, 1, "setPropertiesShown did not return within 1 s. ", "hang");
+    row("leave", {simulated}, 1, "setPropertiesShown ended the process (exit code 3). ", "leave");
+    row("crash, written", {"--write", simulated}, 1, "ERROR   set-read-back       getSettings crashed (", "crash-read");
+    row("kept", {"--write", simulated}, 1, "OK      set-put-back\n", "crash-read");
+    row("destroyed", {simulated}, 1, "ERROR   destroyed           destroyPayCard crashed (", "crash-destroyed");
+    row("no file", {"none.so"}, 2, "none.so");
+    row("no function", {"--create", "make", simulated}, 2, "there is no function make");
+    row("usage", {simulated, "--timeout", "0"}, 2, "--timeout");
+}
+
+void ContractTest::program()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, breakage);
+    QFETCH(QString, line);
+    QTemporaryDir directory;
+    const QString path = directory.filePath("settings.xml");
+    SimulatedDriver driver;
+    QVERIFY(driver.openSettings(path, nullptr) &&
+            driver.replaceSettings(SimulatedDriver::sample("cyberplat"), nullptr));
+    driver.closeSettings();
+    qputenv("PAYCARD_BREAK", breakage.toUtf8());
+    qputenv("PAYCARD_SETTINGS", path.toUtf8());
+    for (const bool asJson : {false, true}) {
+        QProcess process;
+        process.start(PAYCARD_CHECK, (asJson ? QStringList("--json") : QStringList()) + arguments);
+        QVERIFY(process.waitForFinished());
+        const QByteArray output = process.readAllStandardOutput();
+        const QByteArray errors = process.readAllStandardError();
+        QTEST(process.exitCode(), "exitCode");
+        if (!asJson) {
+            QVERIFY2(QString::fromUtf8(output + errors).contains(line), output + errors);
+        } else if (process.exitCode() < 2) {
+            const QJsonObject report = QJsonDocument::fromJson(output).object();
+            QCOMPARE(report["findings"].toArray().size(), ContractChecker::rules().size() + 1);
+            QCOMPARE(report["summary"]["errors"].toInt() > 0, process.exitCode() == 1);
+        }
+    }
+    QVERIFY(driver.openSettings(path, nullptr));
+    QCOMPARE(driver.settings(), SimulatedDriver::sample("cyberplat"));
 }
 
 QTEST_MAIN(ContractTest)

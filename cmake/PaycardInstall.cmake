@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# Installation: the library, its translations and headers, a CMake package and a pkg-config file.
+# Installation: the library, its translations and headers, a CMake package and a pkg-config file, the checker.
 
 include(CMakePackageConfigHelpers)
 
@@ -18,6 +18,10 @@ endforeach()
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/paycard_gui/common/paycard_export.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/paycard_gui/common
     COMPONENT development)
+
+if(TARGET paycard_check)
+    install(TARGETS paycard_check RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT development)
+endif()
 
 install(FILES ${PAYCARD_TRANSLATIONS}
     DESTINATION ${CMAKE_INSTALL_DATADIR}/paycard_gui/translations

@@ -57,9 +57,9 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "A payment-card driver loads this library to have a shop's technician set up
 the payment system and a cashier confirm a payment. It is built with
 Qt ${PAYCARD_QT_VERSION}; the driver's process must use the same release.")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package, pkg-config file, guides and an example for the
-makers of payment-card drivers and of the driver family's other graphical
-modules.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package, pkg-config file, guides, an example and a checker of
+drivers for the makers of payment-card drivers and of the driver family's
+other graphical modules.")
 set(CPACK_COMPONENT_DEBUG_DESCRIPTION "What a debugger needs to name the library's functions and source lines.")
 set(CPACK_COMPONENT_DOCUMENTATION_DESCRIPTION "HTML pages with each function and class of the library.")
 
@@ -86,6 +86,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "${translations_${PAYCARD_QT_VERSION}}")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${debian}/shlibs ${CMAKE_CURRENT_SOURCE_DIR}/cmake/debian/triggers)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS ON) # the checker's
 string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${toolkit_${PAYCARD_QT_VERSION}}")
 set(CPACK_DEBIAN_DEBUG_PACKAGE_SECTION debug)
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_SECTION doc)
@@ -116,7 +117,7 @@ set(CPACK_RPM_CHANGELOG_FILE ${rpm}/changelog)
 # Directories that belong to the system.
 set(shared ${CMAKE_INSTALL_DATADIR})
 foreach(directory
-        ${CMAKE_INSTALL_LIBDIR} ${CMAKE_INSTALL_LIBDIR}/cmake ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+        ${CMAKE_INSTALL_BINDIR} ${CMAKE_INSTALL_LIBDIR} ${CMAKE_INSTALL_LIBDIR}/cmake ${CMAKE_INSTALL_LIBDIR}/pkgconfig
         lib lib/debug lib/debug/.build-id ${CMAKE_INSTALL_INCLUDEDIR} ${shared} ${shared}/doc ${shared}/licenses)
     list(APPEND CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION /usr/${directory})
 endforeach()

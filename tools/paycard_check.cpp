@@ -27,6 +27,7 @@ struct Options
                                         "destroyPayCard"};
     const QCommandLineOption timeout = {"timeout", "Seconds after which an operation counts as hanging (10).",
                                         "seconds", "10"};
+    const QCommandLineOption help = {{"h", "help"}, "Print this help."};
 };
 
 void print(FILE *stream, const QString &text)
@@ -124,10 +125,10 @@ int main(int argc, char **argv)
                                          "Ends with 0, with 1 if there are errors, with 2 if it could not check.");
         parser.addPositionalArgument("driver", "Shared library with the driver.", "DRIVER.so");
         parser.addOptions({options.write, options.json, options.create, options.destroy, options.timeout});
-        const QCommandLineOption help = parser.addHelpOption();
+        parser.addOption(options.help);
         const QCommandLineOption version = parser.addVersionOption();
         const bool isUnderstood = parser.parse(QCoreApplication::arguments());
-        if (parser.isSet(help)) {
+        if (parser.isSet(options.help)) {
             print(stdout, parser.helpText());
             return Clean;
         }

@@ -13,9 +13,17 @@ namespace {
 /// Texts of a finding that are shown; of more the number.
 const int MostTexts = 3;
 
-bool canBePutBack(const QString &settings)
+/// The settings, null if they could not be put back: not read well, or malformed.
+QString settingsToKeep(const ContractSession &session)
 {
-    return settings.isEmpty() ? !settings.isNull() : SettingsDocument(settings).isValid();
+    const QString settings = session.settings();
+    const bool isReadable = settings.isEmpty() || SettingsDocument(settings).isValid();
+    return isReadable && session.settings() == settings ? settings : QString();
+}
+
+ContractSession sessionOf(NOX::PayCard::IPayCard &driver, const QString &settings)
+{
+    return {driver, [](const char *, Severity, const QString &) {}, true, settings, {}};
 }
 
 } // namespace
@@ -64,13 +72,14 @@ QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
         note(QLatin1String(rule), severity, text);
     };
     ContractSession session{checked, report, mayWrite, QString(), {}};
+    checked.mostTime = mostTime;
     checked.onCall = onCall;
     checked.onReturn = [&](const QString &operation, double milliseconds) {
         session.slowest[operation] = std::max(session.slowest.value(operation), milliseconds);
     };
     if (mayWrite) {
-        session.original = session.settings();
-        session.mayWrite = canBePutBack(session.original) && session.settings() == session.original;
+        session.original = settingsToKeep(session);
+        session.mayWrite = !session.original.isNull();
     }
     std::set<void (*)(ContractSession &)> shown;
     for (const QString &name : wanted) {
@@ -98,19 +107,14 @@ QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
     return findings;
 }
 
-QString ContractChecker::settings()
+QString ContractChecker::settings() const
 {
-    return ContractSession{driver, [](const char *, Severity, const QString &) {}, false, QString(), {}}.settings();
+    return settingsToKeep(sessionOf(driver, QString()));
 }
 
-bool ContractChecker::putBack(const QString &xml)
+bool ContractChecker::putBack(const QString &xml) const
 {
-    bool done = true;
-    const auto report = [&](const char * /*rule*/, Severity severity, const QString & /*text*/) {
-        done = done && severity != Severity::Error;
-    };
-    ContractSession{driver, report, true, xml, {}}.putBack();
-    return done;
+    return sessionOf(driver, xml).putBack();
 }
 
 void ContractChecker::note(const QString &rule, Severity severity, const QString &text)

@@ -29,6 +29,8 @@ public:
 
     /// Permits the rules that change settings or the operator chosen. The settings are put back after each of them.
     bool mayWrite = false;
+    /// Longest time that an operation may take, in milliseconds.
+    int mostTime = 100;
     /// Called before each rule.
     std::function<void(const QString &rule)> onRule;
     /// Called before each operation of the driver.
@@ -39,10 +41,10 @@ public:
     /// One finding for each of these rules, and for those others that were seen broken meanwhile.
     QList<ContractFinding> check(const QStringList &rules = ContractChecker::rules());
 
-    /// The settings document as it is.
-    QString settings();
+    /// The settings document as it is; null if it could not be put back.
+    QString settings() const;
     /// Puts a document in its place. False when the driver does not take it.
-    bool putBack(const QString &xml);
+    bool putBack(const QString &xml) const;
 
 private:
     struct Seen

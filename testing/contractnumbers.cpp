@@ -5,10 +5,11 @@
 #include "testing/contractrules.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <malloc.h>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace {

@@ -38,7 +38,8 @@ struct ContractSession
     /// A text as the library reads it, by the name of its getter. Null when it cannot be read.
     QString textOf(const char *getter) const;
     QString settings() const { return textOf("getSettings"); }
-    void putBack() const;
+    /// False, and reported, when the driver does not take its settings back.
+    bool putBack() const;
 };
 
 /// A rule of the driver contract.

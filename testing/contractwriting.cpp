@@ -93,12 +93,14 @@ QString ContractSession::textOf(const char *name) const
     return isWhole ? QString::fromWCharArray(buffer.data(), lengths.last) : QString();
 }
 
-void ContractSession::putBack() const
+bool ContractSession::putBack() const
 {
     const int result = setSettings(original.isEmpty() ? rewritten(original, "0") : original);
-    if (result < 0 || entriesOf(settings()) != entriesOf(original)) {
+    const bool isBack = result >= 0 && entriesOf(settings()) == entriesOf(original);
+    if (!isBack) {
         report("set-put-back", Severity::Error, QStringLiteral("the settings were not put back"));
     }
+    return isBack;
 }
 
 void showProperties(ContractSession &session)

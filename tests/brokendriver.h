@@ -186,7 +186,11 @@ inline std::vector<Breakage> breakages()
              xml.replace("<settings version=\"2\"/>", "<settings><value name='Own'/></settings>");
              return true;
          })},
-        {"version 2", "set-versions set-again",
+        {"version 2", "set-versions", B::setting([](BrokenDriver &, QString &xml) {
+             const bool isOwn = xml == SimulatedDriver::sample("cyberplat") || xml.contains("Свой");
+             return isOwn || !xml.contains("<settings version=\"2\">");
+         })},
+        {"not version 0", "set-versions set-again",
          B::setting([](BrokenDriver &, QString &xml) { return !xml.contains("<settings version=\"0\""); })},
         {"sorted", "set-again", B::setting([](BrokenDriver &driver, QString &xml) {
              return xml != driver.simulated.settings() || xml.startsWith("<settings version=\"2\"");
@@ -213,7 +217,7 @@ inline std::vector<Breakage> breakages()
          }},
         {"slow", "time",
          B::text(version,
-                 [slept = false](Answer &) mutable { QThread::msleep(std::exchange(slept, true) ? 0 : 150); })},
+                 [slept = false](Answer &) mutable { QThread::msleep(std::exchange(slept, true) ? 0 : 450); })},
         {"throws", "no-throw", B::fault("getSum", Fault::ThrowStandard)},
         {"throws a number", "no-throw", B::fault(version, Fault::ThrowOther)},
         {"nothing written", "text-closed", B::fault(version, Fault::NoText)},

@@ -2,11 +2,12 @@
 //
 // The simulated driver as a file. In the environment PAYCARD_SETTINGS names the file for its settings, and
 // PAYCARD_BREAK, with commas between them, the ways in which it breaks the contract: those of brokendriver.h and crash,
-// hang or leave, which happen in setPropertiesShown, crash-read, in getSettings of a long document, and
-// crash-destroyed.
+// hang or leave, which happen in setPropertiesShown, crash-read, in getSettings of a long document, crash-settings, in
+// that of any, and crash-destroyed.
 
 #include "brokendriver.h"
 
+#include <climits>
 #include <csignal>
 #include <unistd.h>
 
@@ -30,10 +31,9 @@ extern "C" __attribute__((visibility("default"))) NOX::PayCard::IPayCard *create
             driver->onShown = end.second;
         }
     }
-    if (names.contains("crash-read")) {
-        Breakage::text("getSettings",
-                       [](BrokenDriver::Answer &answer) { std::raise(answer.result > 10000 ? SIGSEGV : 0); })(*driver);
-    }
+    const int endurable = names.contains("crash-read") ? 10000 : names.contains("crash-settings") ? 0 : INT_MAX;
+    Breakage::text("getSettings",
+                   [=](BrokenDriver::Answer &answer) { std::raise(answer.result > endurable ? SIGSEGV : 0); })(*driver);
     return driver;
 }
 

@@ -88,12 +88,18 @@ private:
                                       {QStringLiteral("severity"), static_cast<int>(finding.severity)},
                                       {QStringLiteral("seen"), finding.seen}});
         };
-        tell(Operation, QStringLiteral("setSettings"));
-        if (!putBack.isNull() && !checker.putBack(putBack)) {
-            tell(Lost, QString());
-            checker.mayWrite = false;
+        if (!putBack.isNull()) {
+            tell(Operation, QStringLiteral("setSettings"));
+            checker.mayWrite = checker.putBack(putBack);
+            if (!checker.mayWrite) {
+                tell(Lost, QString());
+            }
         } else if (mayWrite) {
-            tell(Settings, checker.settings());
+            tell(Operation, QStringLiteral("getSettings"));
+            const QString settings = checker.settings();
+            if (!settings.isNull()) {
+                tell(Settings, settings);
+            }
         }
         checker.check(rules);
     }
@@ -146,10 +152,8 @@ bool CheckRun::run(QString *reason)
         const bool isInTime = watch(ends[0]);
         ::close(ends[0]);
         int status = 0;
-        if (::waitpid(process, &status, isInTime ? 0 : WNOHANG) == 0) {
-            ::kill(process, SIGKILL);
-            ::waitpid(process, nullptr, 0);
-        }
+        ::kill(process, SIGKILL); // one that is gone keeps its status
+        ::waitpid(process, &status, 0);
         const QString end =
             isInTime ? endOf(status) : QStringLiteral("did not return within %1 s").arg(file.timeout / 1000);
         if (!unusable.isEmpty() || (!isDone && !goOn(end))) {
@@ -181,12 +185,9 @@ bool CheckRun::watch(int input)
         pollfd waiting = {input, POLLIN, 0};
         const int ready = ::poll(&waiting, 1, file.timeout);
         char bytes[4096];
-        const ssize_t size = ready > 0 ? ::read(input, bytes, sizeof bytes) : 0;
-        if (ready == 0) {
-            return false;
-        }
-        if (size == 0) {
-            return true;
+        const ssize_t size = ready > 0 ? ::read(input, bytes, sizeof bytes) : -1;
+        if (ready == 0 || size == 0) {
+            return size == 0;
         }
         text.append(bytes, static_cast<int>(std::max<ssize_t>(size, 0)));
         for (auto end = text.indexOf('\n'); end >= 0; end = text.indexOf('\n')) {
@@ -211,7 +212,7 @@ void CheckRun::take(const QJsonObject &message)
         keep(ContractChecker::finding(finding.value(Rule).toString(),
                                       static_cast<Severity>(finding.value(QStringLiteral("severity")).toInt()),
                                       finding.value(QStringLiteral("seen")).toString()));
-    } else if (what == Settings && settings.isNull()) {
+    } else if (what == Settings) {
         settings = value.toString();
     } else if (what == Lost) {
         giveUpSettings(QStringLiteral("the driver does not take them back"));
@@ -256,7 +257,7 @@ bool CheckRun::goOn(const QString &end)
         isDone = true;
         return true;
     }
-    if (mayWrite && !settings.isNull()) {
+    if (mayWrite && operation != QLatin1String(file.create)) {
         giveUpSettings(seen);
         return true;
     }

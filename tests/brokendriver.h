@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 #include <vector>
 
 /// The simulated driver, with answers that can be spoiled.
@@ -45,7 +44,7 @@ public:
     /// False when the document is to be refused.
     std::function<bool(QString &xml)> onSettings = [](QString &) { return true; };
     std::function<void()> onShown = [] {};
-    std::vector<std::unique_ptr<int>> kept;
+    std::vector<QByteArray> kept;
 
     int setPropertiesShown(int shown) override
     {
@@ -213,7 +212,7 @@ inline std::vector<Breakage> breakages()
          })},
         {"grows", "memory",
          [](BrokenDriver &driver) {
-             driver.onText.push_back([&driver](Answer &) { driver.kept.push_back(std::make_unique<int>()); });
+             driver.onText.push_back([&driver](Answer &) { driver.kept.push_back(QByteArray(64, ' ')); });
          }},
         {"slow", "time",
          B::text(version,

@@ -25,7 +25,7 @@ extern "C" __attribute__((visibility("default"))) NOX::PayCard::IPayCard *create
         }
     }
     const std::pair<const char *, std::function<void()>> ends[] = {
-        {"crash", [] { std::raise(SIGSEGV); }}, {"hang", [] { ::pause(); }}, {"leave", [] { ::_exit(3); }}};
+        {"crash", [] { std::raise(SIGABRT); }}, {"hang", [] { ::pause(); }}, {"leave", [] { ::_exit(3); }}};
     for (const auto &end : ends) {
         if (names.contains(end.first)) {
             driver->onShown = end.second;
@@ -33,12 +33,12 @@ extern "C" __attribute__((visibility("default"))) NOX::PayCard::IPayCard *create
     }
     const int endurable = names.contains("crash-read") ? 10000 : names.contains("crash-settings") ? 0 : INT_MAX;
     Breakage::text("getSettings",
-                   [=](BrokenDriver::Answer &answer) { std::raise(answer.result > endurable ? SIGSEGV : 0); })(*driver);
+                   [=](BrokenDriver::Answer &answer) { std::raise(answer.result > endurable ? SIGABRT : 0); })(*driver);
     return driver;
 }
 
 extern "C" __attribute__((visibility("default"))) void destroyPayCard(NOX::PayCard::IPayCard *driver)
 {
     delete static_cast<BrokenDriver *>(driver);
-    std::raise(qEnvironmentVariable("PAYCARD_BREAK") == "crash-destroyed" ? SIGSEGV : 0);
+    std::raise(qEnvironmentVariable("PAYCARD_BREAK") == "crash-destroyed" ? SIGABRT : 0);
 }

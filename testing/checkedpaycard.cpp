@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstring>
 #include <cwchar>
 #include <exception>
 #include <vector>
@@ -50,7 +49,7 @@ Finally(Action) -> Finally<Action>;
 
 bool isCharacter(wchar_t character)
 {
-    const auto code = static_cast<unsigned long>(character);
+    const auto code = static_cast<char32_t>(character);
     return code <= 0x10FFFF && !(code >= 0xD800 && code <= 0xDFFF);
 }
 
@@ -114,7 +113,7 @@ int CheckedPayCard::text(const char *operation, const wchar_t *setting, const Te
     if (!to || size < 0 || size > DriverText::MaxLength + 1) {
         return timed(name, [&] { return get(to, size); });
     }
-    std::vector<wchar_t> guarded(static_cast<std::size_t>(size) + 2 * Guard, Untouched);
+    std::vector<wchar_t> guarded(static_cast<std::size_t>(size) + Guard + Guard, Untouched);
     wchar_t *const area = guarded.data() + Guard;
     const Finally handOver{[&] {
         for (int i = 0; i < size; ++i) {
@@ -191,7 +190,7 @@ bool CheckedPayCard::fetch(const char *operation, const Getter &get, Number *to,
 {
     const QString name = QLatin1String(operation);
     Number value = untouched;
-    const auto isWritten = [&] { return std::memcmp(&value, &untouched, sizeof value) != 0; };
+    const auto isWritten = [&] { return !(value == untouched); };
     const Finally handOver{[&] {
         if (to && isWritten()) {
             *to = value;

@@ -68,7 +68,7 @@ qint64 allocated()
     return static_cast<qint64>(__sanitizer_get_current_allocated_bytes());
 #elif __GLIBC_PREREQ(2, 33)
     const struct mallinfo2 info = mallinfo2();
-    return static_cast<qint64>(info.uordblks + info.hblkhd);
+    return static_cast<qint64>(info.uordblks) + static_cast<qint64>(info.hblkhd);
 #else
     const struct mallinfo info = mallinfo();
     return static_cast<qint64>(info.uordblks) + info.hblkhd;

@@ -118,7 +118,7 @@ bool fits(const Key &key, const QString &value)
 
 QString largest(const Key &key)
 {
-    const QString word = wordsOf(key).constFirst();
+    QString word = wordsOf(key).constFirst();
     if (!word.isEmpty()) {
         return word;
     }

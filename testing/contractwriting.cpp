@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 //
-// What the driver is told: settings, which operator was chosen, and that the properties are shown.
+// What the driver is told: settings, the operator that was chosen, and that the properties are shown.
 
 #include "testing/contractrules.h"
 #include "testing/settingsdocument.h"

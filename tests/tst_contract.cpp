@@ -72,7 +72,12 @@ void ContractTest::breaks()
     checker.mostTime = 400; // sanitizers are slow
     QStringList broken;
     QString seen;
-    for (const ContractFinding &finding : checker.check()) {
+    // That of memory takes its time, and is held apart.
+    QStringList rules = ContractChecker::rules();
+    if (!QStringList({"", "memory"}).contains(breakage.rules)) {
+        rules.removeOne("memory");
+    }
+    for (const ContractFinding &finding : checker.check(rules)) {
         if (finding.severity == Severity::Issue || finding.severity == Severity::Error) {
             broken += finding.rule;
             seen += finding.rule + ": " + finding.seen + "\n";

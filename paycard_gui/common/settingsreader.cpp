@@ -9,6 +9,11 @@
 
 namespace {
 
+const QLatin1String SettingsTag("settings");
+const QLatin1String ValueTag("value");
+const QLatin1String VersionAttribute("version");
+const QLatin1String NameAttribute("name");
+
 // Most characters that the values of one document may take, and that it may have once its entities are
 // unfolded. Values inside values repeat the text that they share, so that a small text could otherwise fill
 // the memory.
@@ -116,21 +121,25 @@ private:
 
 } // namespace
 
-SettingsReader::SettingsReader(const QString &xml) : text(withPlainDeclaration(xml)), reader(text)
-{
-    reader.setNamespaceProcessing(false);
-}
+SettingsReader::SettingsReader(const QString &xml) : text(xml) {}
 
 bool SettingsReader::read()
 {
+    if (text.size() <= MaxCharacters && SettingsText::read(text, entries)) {
+        return true;
+    }
+    entries.clear();
+    text = withPlainDeclaration(text);
+    reader.emplace(text);
+    reader->setNamespaceProcessing(false);
     // One reference is held to its own bound where all of them together cannot be.
     const bool unforeseen = unfoldsInDeclarations(text);
-    const bool bounded = QtCompat::boundEntities(reader, unforeseen ? EntityGrowth : MaxCharacters);
+    const bool bounded = QtCompat::boundEntities(*reader, unforeseen ? EntityGrowth : MaxCharacters);
     if (unforeseen && (!bounded || text.size() > MaxCharacters / EntityGrowth)) {
         return false;
     }
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
+    while (!reader->atEnd()) {
+        switch (reader->readNext()) {
         case QXmlStreamReader::DTD:
             if (!unforeseen && !unfoldsWithinBound()) {
                 return false;
@@ -141,7 +150,7 @@ bool SettingsReader::read()
             break;
         case QXmlStreamReader::Characters:
             if (!open.empty()) {
-                openText += reader.text();
+                openText += reader->text();
             }
             break;
         case QXmlStreamReader::EndElement:
@@ -154,14 +163,21 @@ bool SettingsReader::read()
             return false;
         }
     }
-    return !reader.hasError();
+    return !reader->hasError();
+}
+
+QString SettingsReader::value(const QString &name) const
+{
+    const auto last = std::find_if(entries.rbegin(), entries.rend(),
+                                   [&](const SettingsText::Entry &entry) { return entry.name == name; });
+    return last == entries.rend() ? QString() : last->value;
 }
 
 bool SettingsReader::unfoldsWithinBound()
 {
-    const QXmlStreamEntityDeclarations declarations = reader.entityDeclarations();
+    const QXmlStreamEntityDeclarations declarations = reader->entityDeclarations();
     return declarations.isEmpty() ||
-           Entities(declarations).unfoldedSize(text, reader.characterOffset()) <= MaxCharacters;
+           Entities(declarations).unfoldedSize(text, reader->characterOffset()) <= MaxCharacters;
 }
 
 void SettingsReader::startElement()
@@ -170,21 +186,21 @@ void SettingsReader::startElement()
     if (depth++ == 0) {
         return;
     }
-    if (reader.qualifiedName() == SettingsXml::ValueTag) {
+    if (reader->qualifiedName() == ValueTag) {
         if (open.empty()) {
             openText.clear();
         }
         open.push_back({entries.size(), openText.size()});
-        entries.push_back({reader.attributes().value(SettingsXml::NameAttribute).toString(), QString()});
-    } else if (!hasVersion && reader.qualifiedName() == SettingsXml::SettingsTag) {
+        entries.push_back({reader->attributes().value(NameAttribute).toString(), QString()});
+    } else if (!hasVersion && reader->qualifiedName() == SettingsTag) {
         hasVersion = true;
-        version = reader.attributes().value(SettingsXml::VersionAttribute).toString().toInt();
+        version = reader->attributes().value(VersionAttribute).toString().toInt();
     }
 }
 
 void SettingsReader::endElement()
 {
-    if (--depth > 0 && reader.qualifiedName() == SettingsXml::ValueTag) {
+    if (--depth > 0 && reader->qualifiedName() == ValueTag) {
         const OpenValue &value = open.back();
         entries[value.entry].value = openText.mid(value.start);
         characters += entries[value.entry].value.size();

@@ -2,20 +2,13 @@
 #ifndef SETTINGSREADER_H
 #define SETTINGSREADER_H
 
+#include "common/settingstext.h"
+
 #include <QString>
 #include <QXmlStreamReader>
 
+#include <optional>
 #include <vector>
-
-/// The names in a settings document.
-namespace SettingsXml {
-
-inline const QString SettingsTag = QString::fromWCharArray(L"settings");
-inline const QString ValueTag = QString::fromWCharArray(L"value");
-inline const QString VersionAttribute = QString::fromWCharArray(L"version");
-inline const QString NameAttribute = QString::fromWCharArray(L"name");
-
-} // namespace SettingsXml
 
 /// Reads a settings document entry by entry, so that neither its depth nor its size can exhaust the stack.
 class SettingsReader
@@ -28,14 +21,12 @@ public:
     bool read();
 
     /// The entries in document order: of two with the same name the later one counts.
-    struct Entry
-    {
-        QString name;
-        QString value;
-    };
-    std::vector<Entry> entries;
+    std::vector<SettingsText::Entry> entries;
     bool hasVersion = false;
     int version = 0;
+
+    /// What counts under this name, empty where there is nothing.
+    QString value(const QString &name) const;
 
 private:
     typedef decltype(QString().size()) Size;
@@ -49,8 +40,8 @@ private:
     void startElement();
     void endElement();
 
-    const QString text;
-    QXmlStreamReader reader;
+    QString text;
+    std::optional<QXmlStreamReader> reader;
     int depth = 0;
     std::vector<OpenValue> open;
     // All text since the outermost open value began; each open value holds it from its start on.

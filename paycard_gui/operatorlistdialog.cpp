@@ -44,7 +44,8 @@ void OperatorListDialog::saveSettings()
     const int count = ui->lwOperators->count();
     settings.set(OperatorRecords::CountKey, count);
     for (int i = 0; i < count; ++i) {
-        settings.set(OperatorRecords::key(i), ui->lwOperators->item(i)->data(Qt::UserRole));
+        const QNoxSettings record(ui->lwOperators->item(i)->data(Qt::UserRole).toString());
+        settings.set(OperatorRecords::key(i), record.toXml(0));
     }
 }
 
@@ -56,7 +57,7 @@ bool OperatorListDialog::edit(QNoxSettings &record)
 }
 
 /// An item shows the operator's name and carries its record.
-void OperatorListDialog::setRecord(QListWidgetItem *item, const QNoxSettings &record)
+void OperatorListDialog::setRecord(QListWidgetItem *item, const QString &record)
 {
     const QString name = OperatorRecords::name(record);
     const QString shown = ShownText::cut(name);
@@ -65,7 +66,7 @@ void OperatorListDialog::setRecord(QListWidgetItem *item, const QNoxSettings &re
         shown.size() < NameWidth / 2 || fontMetrics().boundingRect(shown).width() < ui->lwOperators->minimumWidth();
     item->setText(shown);
     item->setToolTip(ShownText::toolTip(name, fits ? shown : QString()));
-    item->setData(Qt::UserRole, record.toXml(0));
+    item->setData(Qt::UserRole, record);
 }
 
 void OperatorListDialog::enableEditing(bool enabled)
@@ -80,7 +81,7 @@ void OperatorListDialog::on_pbtnAdd_clicked()
         QNoxSettings record;
         if (edit(record)) {
             QListWidgetItem *item = new QListWidgetItem(ui->lwOperators);
-            setRecord(item, record);
+            setRecord(item, record.toXml(0));
             ui->lwOperators->setCurrentItem(item);
             enableEditing(true);
         }
@@ -100,7 +101,7 @@ void OperatorListDialog::on_lwOperators_itemDoubleClicked(QListWidgetItem *item)
     guarded([this, item] {
         QNoxSettings record(item->data(Qt::UserRole).toString());
         if (edit(record)) {
-            setRecord(item, record);
+            setRecord(item, record.toXml(0));
         }
     });
 }

@@ -35,7 +35,7 @@ private slots:
 
 private:
     bool edit(QNoxSettings &record);
-    void setRecord(QListWidgetItem *item, const QNoxSettings &record);
+    void setRecord(QListWidgetItem *item, const QString &record);
     void enableEditing(bool enabled);
 
     std::unique_ptr<Ui_OperatorListDialog> ui;

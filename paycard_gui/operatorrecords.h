@@ -3,6 +3,7 @@
 #define OPERATORRECORDS_H
 
 #include "common/qnoxsettings.h"
+#include "common/settingsreader.h"
 #include "settingfields.h"
 
 #include <QString>
@@ -28,15 +29,17 @@ inline int count(const QNoxSettings &settings)
     return wholeNumber(settings.get(CountKey), 0, MaxCount);
 }
 
-/// The record at this index, empty where there is none.
-inline QNoxSettings record(const QNoxSettings &settings, int index)
+/// The record at this index as text, empty where there is none.
+inline QString record(const QNoxSettings &settings, int index)
 {
-    return QNoxSettings(settings.get(key(index)).toString());
+    return settings.get(key(index)).toString();
 }
 
-inline QString name(const QNoxSettings &record)
+/// The operator's name in a record. There may be very many of them, of which nothing else is asked.
+inline QString name(const QString &record)
 {
-    return record.get(NameKey).toString();
+    SettingsReader reader(record);
+    return reader.read() ? reader.value(NameKey) : QString();
 }
 
 } // namespace OperatorRecords

@@ -37,8 +37,8 @@ QString confirmationText(Register &shop)
 Values threeOperators()
 {
     return {{"Operators", 3},
-            {"Operator0", document({{"Name", "Связь"}})},
-            {"Operator1", document({{"Code", "7"}})},
+            {"Operator0", "<r><value name='Name'>x</value><value name='Name'>Связь</value></r>"},
+            {"Operator1", document({{"Name", "x"}}).remove("</settings>")}, // gives nothing
             {"Operator2", document({{"Name", "Свет"}})}};
 }
 

@@ -139,12 +139,9 @@ void PaySystemDialog::loadSettings()
     loadedXml = driver.getWhole(&IPayCard::getSettings);
     const QString text = QString::fromStdWString(loadedXml);
     settings.fromXml(text);
-    const QString readXml = settings.toXml(0);
-    if (readXml == QNoxSettings().toXml(0) && !text.isEmpty() && !SettingsReader(text).read()) {
+    if (!text.isEmpty() && !SettingsReader(text).read()) {
         notice = tr("Настройки драйвера не читаются. ОК заменит их, Отмена оставит как есть.");
         resetError();
-    } else {
-        loadedXml = readXml.toStdWString();
     }
     const std::wstring protocols = driver.getWhole(&IPayCard::getSettingChoices, ProtocolKey.toStdWString().c_str());
     strToComboBox(ui->cmbProtocol, QString::fromStdWString(protocols), false);
@@ -156,6 +153,12 @@ void PaySystemDialog::saveSettings()
 {
     saveFields(fields, settings);
     writeToDriver(settings.toXml(DocumentVersion).toStdWString());
+}
+
+/// What Cancel gives the driver: its document written anew, or as it is when it cannot be read.
+std::wstring PaySystemDialog::textAsLoaded() const
+{
+    return notice.isEmpty() ? QNoxSettings(QString::fromStdWString(loadedXml)).toXml(0).toStdWString() : loadedXml;
 }
 
 /// Gives the driver the text, which is this function's own: the window may go meanwhile. True while it exists.
@@ -261,7 +264,7 @@ void PaySystemDialog::on_pbtnOk_clicked()
 void PaySystemDialog::on_pbtnCancel_clicked()
 {
     reportingFailure([this] {
-        if (writeToDriver(loadedXml)) {
+        if (writeToDriver(textAsLoaded())) {
             NoHelpButtonDialog::reject();
         }
     });
@@ -279,7 +282,7 @@ void PaySystemDialog::closeEvent(QCloseEvent *event)
 {
     if (isVisible()) {
         hide();
-        guarded([this] { writeToDriver(loadedXml); });
+        guarded([this] { writeToDriver(textAsLoaded()); });
     }
     event->accept();
 }

@@ -75,15 +75,16 @@ private:
     void edit();
     template <class Action>
     void reportingFailure(Action action);
+    std::wstring textAsLoaded() const;
     bool writeToDriver(std::wstring xml);
 
     std::unique_ptr<Ui_PaySystemDialog> ui;
     QNoxPaycard driver;
-    /// What Cancel gives the driver.
+    /// The driver's document.
     std::wstring loadedXml;
     QNoxSettings settings;
     SettingFields fields;
-    /// Stands in the error line while there is no error.
+    /// Stands in the error line while there is no error. Empty when the document can be read.
     QString notice;
     PropertiesShown propertiesShown;
 };

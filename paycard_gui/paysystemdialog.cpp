@@ -137,7 +137,7 @@ void PaySystemDialog::resetError()
 void PaySystemDialog::loadSettings()
 {
     loadedXml = driver.getWhole(&IPayCard::getSettings);
-    const QString text = QString::fromStdWString(loadedXml);
+    const QString text = QtCompat::fromWideText(loadedXml.data(), loadedXml.size());
     settings.fromXml(text);
     if (!text.isEmpty() && !SettingsReader(text).read()) {
         notice = tr("Настройки драйвера не читаются. ОК заменит их, Отмена оставит как есть.");
@@ -158,7 +158,9 @@ void PaySystemDialog::saveSettings()
 /// What Cancel gives the driver: its document written anew, or as it is when it cannot be read.
 std::wstring PaySystemDialog::textAsLoaded() const
 {
-    return notice.isEmpty() ? QNoxSettings(QString::fromStdWString(loadedXml)).toXml(0).toStdWString() : loadedXml;
+    return notice.isEmpty()
+               ? QNoxSettings(QtCompat::fromWideText(loadedXml.data(), loadedXml.size())).toXml(0).toStdWString()
+               : loadedXml;
 }
 
 /// Gives the driver the text, which is this function's own: the window may go meanwhile. True while it exists.

@@ -5,6 +5,7 @@
 #include "common/drivertext.h"
 #include "common/ipaycard.h"
 #include "common/paycard_export.h"
+#include "common/qtcompat.h"
 
 #include <QByteArray>
 #include <QFutureInterface>
@@ -200,7 +201,7 @@ QString QNoxInterface<T>::readText(Get get) const
     if (!DriverText::isCredible(lengths.first) || lengths.first < 1) {
         return QString();
     }
-    return QString::fromWCharArray(buffer.data(), static_cast<int>(wcsnlen(buffer.data(), buffer.size())));
+    return QtCompat::fromWideText(buffer.data(), wcsnlen(buffer.data(), buffer.size()));
 }
 
 template <class T>

@@ -12,6 +12,7 @@
 #include <QVariant>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <string>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
@@ -86,6 +87,21 @@ inline std::wstring wideText(const QString &text)
     wide.resize(wide.size() - pairs);
 #endif
     return wide;
+}
+
+/// The text of characters of four bytes. The toolkit's own conversion takes many times as long, in every release; it is
+/// left what takes pairs, and the byte order mark, which it drops.
+inline QString fromWideText(const wchar_t *wide, std::size_t length)
+{
+    const bool isPlain =
+        std::all_of(wide, wide + length, [](wchar_t c) { return static_cast<char32_t>(c) <= 0xFFFF && c != 0xFEFF; });
+    if (!isPlain) {
+        return QString::fromWCharArray(wide, static_cast<int>(length));
+    }
+    QString text;
+    text.resize(static_cast<int>(length));
+    std::transform(wide, wide + length, text.data(), [](wchar_t c) { return QChar(static_cast<ushort>(c)); });
+    return text;
 }
 
 inline int typeOf(const QVariant &value)

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QTextDocument>
 #include <QTextEdit>
 #include <QTreeWidget>
 
@@ -18,9 +19,9 @@ typedef std::function<void(QWidget *)> Fill;
 
 /// What fills a widget of the same class with what this one shows; nothing for a widget of another class.
 template <class Widget, class Get, class Set>
-Fill copied(const QWidget *widget, Get get, Set set)
+Fill copied(QWidget *widget, Get get, Set set)
 {
-    const Widget *source = qobject_cast<const Widget *>(widget);
+    Widget *source = qobject_cast<Widget *>(widget);
     if (!source) {
         return nullptr;
     }
@@ -53,11 +54,18 @@ QStringList listTexts(const QListWidget *list)
     return texts;
 }
 
-QList<QStringList> treeTexts(const QTreeWidget *tree)
+/// Rows with the texts of the cells; a cell may hold a label instead.
+QList<QStringList> treeTexts(QTreeWidget *tree)
 {
     QList<QStringList> rows;
     for (int i = 0; i < tree->topLevelItemCount(); ++i) {
-        rows.append({tree->topLevelItem(i)->text(0), tree->topLevelItem(i)->text(1)});
+        QTreeWidgetItem *item = tree->topLevelItem(i);
+        QStringList row;
+        for (int column = 0; column < tree->columnCount(); ++column) {
+            const QLabel *label = qobject_cast<QLabel *>(tree->itemWidget(item, column));
+            row.append(label ? label->text() : item->text(column));
+        }
+        rows.append(row);
     }
     return rows;
 }
@@ -65,11 +73,18 @@ QList<QStringList> treeTexts(const QTreeWidget *tree)
 void setTreeTexts(QTreeWidget *tree, const QList<QStringList> &rows)
 {
     for (const QStringList &row : rows) {
-        new QTreeWidgetItem(tree, row);
+        QTreeWidgetItem *item = new QTreeWidgetItem(tree);
+        for (int column = 0; column < row.size(); ++column) {
+            if (Qt::mightBeRichText(row.at(column))) {
+                tree->setItemWidget(item, column, new QLabel(row.at(column)));
+            } else {
+                item->setText(column, row.at(column));
+            }
+        }
     }
 }
 
-Fill fillFrom(const QWidget *widget)
+Fill fillFrom(QWidget *widget)
 {
     const Fill fills[] = {
         copied<QLabel>(
@@ -103,7 +118,7 @@ Fill fillFrom(const QWidget *widget)
 Contents::Contents(const QWidget *window) : size(window->size())
 {
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
+    for (QWidget *widget : widgets) {
         const Fill fillWidget = fillFrom(widget);
         // The toolkit names the parts of its own widgets, too.
         if (fillWidget && !widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_")) {

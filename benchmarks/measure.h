@@ -30,23 +30,23 @@ struct Medians
 {
     qint64 library = 0;
     qint64 floor = 0;
-    /// A second floor, for windows: the form with what the library's window shows. 0 without one.
-    qint64 filled = 0;
+    /// A second floor, for windows: the form with nothing in it. 0 without one.
+    qint64 empty = 0;
 };
 
 typedef std::function<qint64()> Sampler;
 
 /// Takes samples of the library and of its floors in turns, so that what else happens on the machine meets
 /// all of them. Each sampler returns the nanoseconds of one sample.
-inline Medians interleave(double seconds, const Sampler &library, const Sampler &floor, const Sampler &filled = nullptr)
+inline Medians interleave(double seconds, const Sampler &library, const Sampler &floor, const Sampler &empty = nullptr)
 {
     const std::size_t warmUp = 2;
     const std::size_t least = 9;
     const std::size_t most = 1001;
 
     std::vector<std::pair<Sampler, std::vector<qint64>>> all = {{library, {}}, {floor, {}}};
-    if (filled) {
-        all.push_back({filled, {}});
+    if (empty) {
+        all.push_back({empty, {}});
     }
     const qint64 start = now();
     std::size_t rounds = 0;
@@ -65,7 +65,7 @@ inline Medians interleave(double seconds, const Sampler &library, const Sampler 
         std::nth_element(first, middle, samples.second.end());
         medians.push_back(*middle);
     }
-    return {medians[0], medians[1], filled ? medians[2] : 0};
+    return {medians[0], medians[1], empty ? medians[2] : 0};
 }
 
 #endif

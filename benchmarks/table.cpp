@@ -35,7 +35,7 @@ QStringList ratioRow(const QString &what, const Medians &medians, double aim, co
             number(times, 2),
             aim > 0 ? "≤ " + number(aim, 2) : QString(),
             aim > 0 ? met(times <= aim) : QString(),
-            medians.filled > 0 ? number(ratio(medians.library, medians.filled), 2) : QString(),
+            medians.empty > 0 ? number(ratio(medians.library, medians.empty), 2) : QString(),
             growth};
 }
 
@@ -78,7 +78,7 @@ void Table::addCount(const QString &what, int count, int floor)
 
 QString Table::toText() const
 {
-    std::vector<QStringList> lines = {{"What", "Library", "Floor", "Ratio", "Aim", "Met", "Filled", "Growth (floor)"}};
+    std::vector<QStringList> lines = {{"What", "Library", "Floor", "Ratio", "Aim", "Met", "Empty", "Growth (floor)"}};
     lines.insert(lines.end(), rows.begin(), rows.end());
     std::vector<int> widths(static_cast<std::size_t>(lines.front().size()));
     for (const QStringList &line : lines) {

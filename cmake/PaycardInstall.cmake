@@ -41,9 +41,9 @@ install(FILES
     COMPONENT development)
 
 if(PAYCARD_QT_VERSION EQUAL 4)
-    set(PAYCARD_PC_REQUIRES "QtGui QtXml")
+    set(PAYCARD_PC_REQUIRES QtGui)
 else()
-    set(PAYCARD_PC_REQUIRES "Qt${PAYCARD_QT_VERSION}Widgets Qt${PAYCARD_QT_VERSION}Xml")
+    set(PAYCARD_PC_REQUIRES Qt${PAYCARD_QT_VERSION}Widgets)
     # The headers of the toolkit insist on it, but its own .pc files do not say so.
     set(PAYCARD_PC_CFLAGS "-fPIC ")
 endif()

@@ -29,16 +29,19 @@ public:
 
         qint64 painted = 0;
         const qint64 start = now();
-        pending = [&](QDialog *window) {
+        whenPainted([&](QDialog *window) {
             painted = now() - start;
             then(window);
-        };
+        });
         open();
         if (pending) {
             qFatal("no window was opened");
         }
         return painted;
     }
+
+    /// Calls this once, when the next modal window and all in it have been painted.
+    void whenPainted(const Action &action) { pending = action; }
 
     static void cancel(QDialog *window) { window->reject(); }
 

@@ -52,6 +52,7 @@ int main(int argc, char **argv)
 
     Table table;
     measureLoading(table, seconds);
+    measureStart(table, seconds);
     measureWindows(table, seconds);
     measureOperators(table, seconds);
     measureDocument(table, seconds);

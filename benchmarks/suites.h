@@ -7,6 +7,7 @@
 #include <string>
 
 /// What is measured, `seconds` for each figure.
+void measureStart(Table &table, double seconds);
 void measureWindows(Table &table, double seconds);
 void measureOperators(Table &table, double seconds);
 void measureDocument(Table &table, double seconds);

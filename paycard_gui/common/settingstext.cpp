@@ -107,7 +107,7 @@ public:
         if (end < 0) {
             return false;
         }
-        text.resize(end - at); // at least as long as unescaped
+        text.resize(end - at); // no shorter than what it is unescaped
         QChar *to = text.data();
         for (; at < end; ++to) {
             const QChar c = xml.at(at);
@@ -122,7 +122,7 @@ public:
                 ++at;
             }
         }
-        text.truncate(to - text.constData());
+        text.truncate(static_cast<Size>(to - text.constData()));
         ++at;
         return true;
     }

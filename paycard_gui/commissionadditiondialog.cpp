@@ -4,6 +4,7 @@
 #include "common/qt_utils.h"
 #include "common/showntext.h"
 #include "driverconversation.h"
+#include "formutils.h"
 #include "mappinglist.h"
 #include "ui_commissionadditiondialog.h"
 
@@ -114,8 +115,8 @@ void CommissionAdditionDialog::checkSum(double sum, double min, double max)
 void CommissionAdditionDialog::setState(bool ok, const QString &text)
 {
     ui->pbtnOk->setEnabled(ok);
-    ui->errorLabel->setText(text);
     ui->errorLabel->setVisible(!ok);
+    showError(ui->errorLabel, text);
     adjustSize();
 }
 

@@ -3,6 +3,7 @@
 
 #include "common/nohelpbuttondialogs.h"
 #include "common/onscreenkeyboard.h"
+#include "common/qtcompat.h"
 #include "common/showntext.h"
 #include "common/windowfit.h"
 
@@ -14,10 +15,14 @@
 
 void showError(QLabel *line, const QString &text)
 {
+    const QString before = line->text();
     ShownText::show(line, text);
     keepAboveKeyboard(*line);
     if (line->window()->isVisible()) {
         growToContents(*line->window());
+        if (line->text() != before && !text.isEmpty()) {
+            QtCompat::announce(*line, line->text());
+        }
     }
 }
 

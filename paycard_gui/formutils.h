@@ -6,7 +6,8 @@ class QLabel;
 class QString;
 class QWidget;
 
-/// Shows the text in a window's error line; the window grows as high as it then needs to be.
+/// Shows the text in a window's error line; the window grows as high as it then needs to be. In a window that is open
+/// a new error is announced to a screen reader, too; with a window that opens its error is read anyway.
 void showError(QLabel *line, const QString &text);
 
 /// Makes the labels beside a form's inputs as wide as the widest of their column and as high as the inputs,

@@ -2,6 +2,7 @@
 #ifndef QTCOMPAT_H
 #define QTCOMPAT_H
 
+#include <QAccessible>
 #include <QApplication>
 #include <QByteArray>
 #include <QFileDialog>
@@ -250,6 +251,25 @@ inline void keepAboveActiveWindow(QWidget &window)
     window.windowHandle()->setTransientParent(active->windowHandle());
 #else
     window.setWindowFlags(window.windowFlags() | (active->windowFlags() & Qt::WindowStaysOnTopHint));
+#endif
+}
+
+/// Has a screen reader say the widget's text at once. Only the newest releases take the text itself along; of the
+/// others some bridges pass no more on than that the text has changed, which the label tells them itself.
+inline void announce(QWidget &widget, const QString &text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent announcement(&widget, text);
+    announcement.setPoliteness(QAccessible::AnnouncementPoliteness::Assertive);
+    QAccessible::updateAccessibility(&announcement);
+#else
+    Q_UNUSED(text);
+#endif
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    QAccessibleEvent alert(&widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+#else
+    QAccessible::updateAccessibility(&widget, 0, QAccessible::Alert);
 #endif
 }
 

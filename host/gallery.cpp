@@ -3,14 +3,13 @@
 
 #include "cashregisterwindow.h"
 #include "journal.h"
+#include "testing/cashier.h"
 #include "testing/librarypaycard.h"
-#include "testing/modalscript.h"
 #include "testing/simulateddriver.h"
 #include "windowtour.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTabWidget>
@@ -34,7 +33,7 @@ QPixmap photographHost(const LibraryPaycard &library, const Operation &operation
     tabs->setCurrentWidget(window.findChild<QWidget *>(page));
     window.resize(800, 600);
     window.show();
-    ModalScript script({[](QWidget *box) { qobject_cast<QMessageBox *>(box)->button(QMessageBox::Ok)->click(); }});
+    ModalScript script({Cashier::key(Qt::Key_Return)});
     script.run([&] {
         window.findChild<QPushButton *>("pbtnConfirmPayment")->click();
         return 0;

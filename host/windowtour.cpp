@@ -1,47 +1,33 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "windowtour.h"
 
+#include "testing/cashier.h"
 #include "testing/librarypaycard.h"
-#include "testing/modalscript.h"
 #include "testing/simulateddriver.h"
 
 #include <QMap>
 #include <QPointer>
-#include <QVariant>
 #include <QWidget>
 
 namespace {
+
+using Cashier::choose;
+using Cashier::press;
+using Cashier::type;
 
 const Failure Refusal = {Fault::Refuse, 12, "Настройки не приняты", "порт занят другой программой"};
 
 /// What the user does in a window.
 struct Move
 {
-    enum Kind {
-        Open, ///< presses a button, which opens another window
-        Press,
-        Set
-    };
-
-    Kind kind;
-    QString widget;
-    const char *property;
-    QVariant value;
+    ModalScript::Step step;
+    /// Whether it opens another window.
+    bool opens = false;
 };
 
 Move open(const QString &button)
 {
-    return {Move::Open, button, nullptr, QVariant()};
-}
-
-Move press(const QString &button)
-{
-    return {Move::Press, button, nullptr, QVariant()};
-}
-
-Move set(const QString &widget, const char *property, const QVariant &value)
-{
-    return {Move::Set, widget, property, value};
+    return {press(button), true};
 }
 
 /// A window and the way to it: from the entry point over the moves.
@@ -108,25 +94,25 @@ QList<Scene> scenes()
         {"commission", "CommissionAddition", shop},
         {"commission-too-little", "CommissionAddition", shop, {}, {}, paying(5.0)},
         {"properties", properties, shop},
-        {"properties-no-directory", properties, shop, {set("lePathACDialog", "text", "/нет/такого/каталога")}},
-        {"properties-refused", properties, shop, {press("pbtnOk")}, {}, failing("setSettings", Refusal)},
+        {"properties-no-directory", properties, shop, {{type("lePathACDialog", "/нет/такого/каталога")}}},
+        {"properties-refused", properties, shop, {{press("pbtnOk")}}, {}, failing("setSettings", Refusal)},
         {"properties-long",
          properties,
          shop,
-         {press("pbtnOk")},
+         {{press("pbtnOk")}},
          {},
          failing("setSettings", {Fault::Refuse, 12, longText(), {}})},
         {"slip", properties, shop, {open("pbtnSlip")}},
-        {"operators", properties, shop, {open("pbtnOperators"), set("lwOperators", "currentRow", 1)}},
-        {"operator", properties, shop, {open("pbtnOperators"), set("lwOperators", "currentRow", 1), open("pbtnEdit")}},
-        {"operator-new", properties, shop, {open("pbtnOperators"), open("pbtnAdd")}},
-        {"cyberplat", properties, shop, {open("pbtnSettingsButton")}},
-        {"cyberplat-no-password",
+        {"operators", properties, shop, {open("pbtnOperators"), {choose("lwOperators", "Интернет «Образец»")}}},
+        {"operator",
          properties,
          shop,
-         {open("pbtnSettingsButton"), set("leKeyLoadPwd", "text", QString())}},
+         {open("pbtnOperators"), {choose("lwOperators", "Интернет «Образец»")}, open("pbtnEdit")}},
+        {"operator-new", properties, shop, {open("pbtnOperators"), open("pbtnAdd")}},
+        {"cyberplat", properties, shop, {open("pbtnSettingsButton")}},
+        {"cyberplat-no-password", properties, shop, {open("pbtnSettingsButton"), {type("leKeyLoadPwd", QString())}}},
         protocolScene("arcus2", 6),
-        protocolScene("arcus2-same-codes", 6, {set("spinOpcodePrintJournal", "value", 2)}),
+        protocolScene("arcus2-same-codes", 6, {{type("spinOpcodePrintJournal", "2")}}),
         protocolScene("lumipay-inpas", 8),
         protocolScene("lumipay-arcus2", 9),
         protocolScene("lumipay-sberbank", 10),
@@ -153,16 +139,6 @@ void prepareDriver(SimulatedDriver &driver, const Scene &scene, const Operation 
     }
 }
 
-/// False when the window has no such widget, or its button is disabled.
-bool play(const Move &move, QWidget *window)
-{
-    if (move.kind != Move::Set) {
-        return ModalScript::press(window, move.widget);
-    }
-    auto *widget = window->findChild<QWidget *>(move.widget);
-    return widget && widget->setProperty(move.property, move.value);
-}
-
 /// Plays the scene up to its last window, which `visit` gets. Empty when that came, otherwise the reason.
 QString visitScene(const Scene &scene, const LibraryPaycard &library, const Operation &operation,
                    const WindowVisitor &visit)
@@ -170,34 +146,30 @@ QString visitScene(const Scene &scene, const LibraryPaycard &library, const Oper
     SimulatedDriver driver;
     prepareDriver(driver, scene, operation);
     QPointer<QWidget> opener;
-    QString reason = QStringLiteral("окно не появилось");
-    bool stuck = false;
-    // False once a window is missing; then the script closes the ones that are open.
-    const auto arrived = [&](QWidget *window) { return window != opener && !stuck; };
-
+    bool visited = false;
+    const auto expectAnotherThan = [](const QWidget *before, const QWidget *window) {
+        if (window == before) {
+            throw ModalScript::Impossible{QStringLiteral("следующее окно не появилось")};
+        }
+    };
     std::vector<ModalScript::Step> steps;
     for (const Move &move : scene.moves) {
         steps.emplace_back([&](QWidget *window) {
-            if (!arrived(window)) {
-                return;
-            }
-            if (!play(move, window)) {
-                reason = QStringLiteral("не вышло с элементом %1").arg(move.widget);
-                stuck = true;
-            } else if (move.kind == Move::Open) {
+            expectAnotherThan(opener, window);
+            move.step(window);
+            if (move.opens) {
                 opener = window;
             }
         });
     }
     steps.emplace_back([&](QWidget *window) {
-        if (arrived(window)) {
-            visit(scene.name, window);
-            reason.clear();
-        }
+        expectAnotherThan(opener, window);
+        visit(scene.name, window);
+        visited = true;
     });
     ModalScript script(std::move(steps));
     script.run([&] { return library.call(scene.function, &driver, nullptr); });
-    return reason;
+    return visited ? QString() : script.problem();
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "testing/modalscript.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 
@@ -12,19 +11,10 @@ namespace {
 
 const int PollInterval = 5; // ms
 
-QAbstractButton *findButton(const QWidget *window, const QString &nameOrCaption)
+QString describe(const QWidget *window)
 {
-    const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
-    QAbstractButton *captioned = nullptr;
-    for (QAbstractButton *button : buttons) {
-        if (button->objectName() == nameOrCaption) {
-            return button;
-        }
-        if (!captioned && button->text().remove(QLatin1Char('&')) == nameOrCaption) {
-            captioned = button;
-        }
-    }
-    return captioned;
+    return QString::fromLatin1("%1 \"%2\"")
+        .arg(QString::fromLatin1(window->metaObject()->className()), window->windowTitle());
 }
 
 } // namespace
@@ -40,24 +30,17 @@ ModalScript::ModalScript(std::vector<Step> steps) : steps(std::move(steps))
 int ModalScript::run(const std::function<int()> &function, int timeout)
 {
     next = 0;
-    closing = false;
+    trouble.clear();
     asked = nullptr;
     patience = timeout;
     sinceLastStep.start();
     timer.start();
     const std::unique_ptr<QTimer, void (*)(QTimer *)> running(&timer, [](QTimer *started) { started->stop(); });
-    return function();
-}
-
-bool ModalScript::completed() const
-{
-    return next == steps.size() && !closing;
-}
-
-bool ModalScript::press(QWidget *window, const QString &button)
-{
-    QAbstractButton *found = findButton(window, button);
-    return found && found->isEnabled() && QMetaObject::invokeMethod(found, "click", Qt::QueuedConnection);
+    const int result = function();
+    if (next < steps.size()) {
+        complain(QString::fromLatin1("the call has returned"));
+    }
+    return result;
 }
 
 void ModalScript::poll()
@@ -65,13 +48,16 @@ void ModalScript::poll()
     // Before the step, too: one that opens a window itself does not return before that window has closed.
     timer.start();
     if (sinceLastStep.hasExpired(patience)) {
-        closing = true;
+        complain(QString::fromLatin1("nothing has happened for %1 ms").arg(patience));
     }
     QWidget *window = QApplication::activeModalWidget();
     if (!window || !window->isVisible()) {
         return;
     }
-    if (next < steps.size() && !closing) {
+    if (next == steps.size()) {
+        complain(QString::fromLatin1("%1 was left open").arg(describe(window)));
+    }
+    if (trouble.isEmpty()) {
         playNext(window);
     } else {
         end(window);
@@ -81,14 +67,26 @@ void ModalScript::poll()
 
 void ModalScript::playNext(QWidget *window)
 {
+    // It may delete the window.
+    const QString place = describe(window);
     ++next;
-    steps[next - 1](window);
+    try {
+        steps[next - 1](window);
+    } catch (const Impossible &impossible) {
+        complain(QString::fromLatin1("%1: %2").arg(place, impossible.reason));
+    }
     sinceLastStep.start();
+}
+
+void ModalScript::complain(const QString &reason)
+{
+    if (trouble.isEmpty()) {
+        trouble = QString::fromLatin1("after %1 of %2 steps: %3").arg(next).arg(steps.size()).arg(reason);
+    }
 }
 
 void ModalScript::end(QWidget *window)
 {
-    closing = true;
     if (window != asked) {
         asked = window;
         window->close();

@@ -8,10 +8,9 @@
 /// One value of a settings document.
 struct SettingsEntry
 {
-    QString name;
-    QString text;
-    /// A password: never to be shown.
-    bool secret = false;
+    QString name;        ///< its key
+    QString text;        ///< as it is stored
+    bool secret = false; ///< a password, never to be shown
 };
 
 /// The driver's own view of a settings document: `<settings version="2"><value name="Key">text</value>...`.
@@ -19,8 +18,10 @@ struct SettingsEntry
 class SettingsDocument
 {
 public:
+    /// Reads the text. One that is malformed has no entries.
     explicit SettingsDocument(const QString &xml);
 
+    /// False when the text was malformed.
     bool isValid() const { return error.isEmpty(); }
     /// Where a malformed text goes wrong, for people. Tells nothing of its content, which may be a password.
     const QString &errorPlace() const { return error; }
@@ -29,14 +30,17 @@ public:
     const QList<SettingsEntry> &entries() const { return values; }
     /// Empty when there is none; the last one when there are several.
     QString value(const QString &name) const;
+    /// Puts the value at the end, in the place of earlier ones of its name.
     void setValue(const QString &name, const QString &text);
 
+    /// The text of the document.
     QString toXml() const;
     /// The document with masked passwords; only its length when it is malformed.
     QString toPeople() const { return toPeople(0); }
 
     /// A value as it may be shown: a document in it is treated as above.
     static QString shown(const SettingsEntry &entry) { return shown(entry, 0); }
+    /// Whether the value of this name is a password.
     static bool isSecret(const QString &name);
 
 private:

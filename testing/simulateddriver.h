@@ -32,10 +32,10 @@ enum class Fault {
 /// A fault together with what the driver says of it.
 struct Failure
 {
-    Fault fault = Fault::Refuse;
-    int code = 1;
-    QString text;
-    QString detail;
+    Fault fault = Fault::Refuse; ///< in which way
+    int code = 1;                ///< what the error operations give for it
+    QString text;                ///< its description
+    QString detail;              ///< the description of its detail; without one there is no detail
     /// Only this one of the calls that the failure is about, counted from 1 on since it was set; 0 for all.
     /// With 1 the operation fails once and then never again. GoneAtSecond takes the next call along.
     int nth = 0;
@@ -47,19 +47,19 @@ struct Failure
 /// A failure that was set, and how many calls it has been about since.
 struct FailureInForce
 {
-    Failure failure;
-    int calls = 0;
+    Failure failure; ///< as it was set
+    int calls = 0;   ///< those it has been about
 };
 
 /// The payment or other operation under way. Amounts in roubles.
 struct Operation
 {
-    int code = 0;
-    double sum = 0.0;
-    double commission = 0.0;
-    QString reference;
-    QString phone;
-    QString account;
+    int code = 0;            ///< its kind, as getOperation() gives it
+    double sum = 0.0;        ///< without the commission
+    double commission = 0.0; ///< as getCommission() gives it
+    QString reference;       ///< as getReference() gives it
+    QString phone;           ///< as getPhoneNumber() gives it
+    QString account;         ///< as getAccountNumber() gives it
     /// Index of the operator's record in the settings, -1 for none.
     int operatorIndex = -1;
 };
@@ -67,13 +67,11 @@ struct Operation
 /// One call that the library made.
 struct DriverCall
 {
-    QString operation;
-    /// Arguments and outcome for people; passwords are masked.
-    QString arguments;
-    QString result;
-    /// When it began, in milliseconds since 1970 (UTC), and how long the driver took, in microseconds.
-    qint64 time = 0;
-    qint64 took = 0;
+    QString operation; ///< its name
+    QString arguments; ///< for people; passwords are masked
+    QString result;    ///< for people; passwords are masked
+    qint64 time = 0;   ///< when it began, in milliseconds since 1970 (UTC)
+    qint64 took = 0;   ///< how long the driver took, in microseconds
 };
 
 /// A payment-card driver without a card reader: keeps the settings in a file, answers from the operation that
@@ -89,8 +87,9 @@ public:
     /// Names of the faults for people, in the order of the enumeration.
     static QStringList faults();
 
-    /// Names of the sample documents, and the text of one of them.
+    /// Names of the sample documents.
     static QStringList samples();
+    /// The text of one of them.
     static QString sample(const QString &name);
 
     /// Keeps the settings in memory only.
@@ -109,13 +108,14 @@ public:
     /// Saves no more, and leaves the file as it is.
     void closeSettings();
 
-    /// The current document, and a way to replace it as setSettings() does. False, with the reason, when it
-    /// is refused.
+    /// The current document.
     QString settings() const { return document.text; }
+    /// Replaces it as setSettings() does. False, with the reason, when it is refused.
     bool replaceSettings(const QString &xml, QString *reason);
     /// Puts any text in its place, such as one that is no document. setSettings() takes that very text back.
     void damageSettings(const QString &text) { document = Document(text); }
 
+    /// The answers that are not settings.
     Operation operation;
 
     /// Makes an operation fail until the failure is removed. A later one with the same argument and number
@@ -123,11 +123,14 @@ public:
     void failOperation(const QString &name, const Failure &failure);
     /// Takes away the failure with this argument and number. False when there is none.
     bool removeFailure(const QString &name, const QString &argument = QString(), int nth = 0);
+    /// Takes all failures away.
     void clearFailures() { inForce.clear(); }
     /// The failures in force by operation, of each the latest first.
     const QMultiMap<QString, FailureInForce> &failures() const { return inForce; }
 
+    /// Every call so far, in order.
     const QList<DriverCall> &journal() const { return calls; }
+    /// Forgets them.
     void clearJournal() { calls.clear(); }
     /// Called after each call has been written down.
     std::function<void()> onCall;

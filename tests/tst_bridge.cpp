@@ -109,8 +109,8 @@ const struct
 /// A user who agrees to everything, and leaves where that does not help.
 void agree(QWidget *window)
 {
-    if (!ModalScript::press(window, "pbtnOk") && !ModalScript::press(window, "OK")) {
-        ModalScript::press(window, "pbtnCancel");
+    if (!Cashier::tryPress(window, "pbtnOk") && !Cashier::tryPress(window, "OK")) {
+        Cashier::tryPress(window, "pbtnCancel");
     }
 }
 
@@ -153,6 +153,7 @@ void BridgeTest::failures()
     for (const Fault fault : {Fault::Refuse, Fault::NoText, Fault::EverLonger, Fault::LargestInt, Fault::GoneAtSecond,
                               Fault::Unterminated, Fault::ThrowStandard, Fault::ThrowOther, Fault::RunsEvents}) {
         Register shop = shopWithOperator();
+        shop.mayEndEarly = true;
         shop.driver.operation.operatorIndex = 0;
         shop.driver.operation.sum = 100;
         shop.driver.failOperation(operation, {fault, 5, "Сбой", "деталь"});
@@ -220,6 +221,7 @@ void BridgeTest::intrusions()
             parent = new QWidget;
             const QPointer<QWidget> alive(parent);
             Register shop = shopWithOperator();
+            shop.mayEndEarly = true;
             shop.driver.operation.operatorIndex = 0;
             shop.driver.operation.sum = 100;
             if (operation.startsWith("getResult") || operation.startsWith("getError")) {
@@ -297,7 +299,7 @@ void BridgeTest::entryWithinEntry()
     };
     const auto choose = [](QWidget *window) {
         QCOMPARE(window->windowTitle(), QString("Выбор оператора"));
-        ModalScript::press(window, "pbtnOk");
+        press("pbtnOk")(window);
     };
     const int outerResult = outer.run(ShowProperties, {callAgain, choose, press("pbtnCancel")});
     QCOMPARE(innerResult, 1);

@@ -83,9 +83,9 @@ void HostTest::window()
     child<QComboBox>(&window, "cmbFailing")->setCurrentText("setPropertiesShown");
     child<QLineEdit>(&window, "leArgument")->setText("0");
     child<QSpinBox>(&window, "spinNth")->setValue(1);
-    ModalScript::press(&window, "pbtnFail");
+    Cashier::tryPress(&window, "pbtnFail");
     for (const int result : {-1, 0}) {
-        ModalScript::press(&window, "pbtnShowProperties");
+        Cashier::tryPress(&window, "pbtnShowProperties");
         ModalScript script({key(Qt::Key_Escape), key(Qt::Key_Return)});
         script.run([] {
             QApplication::processEvents();
@@ -117,7 +117,7 @@ void HostTest::window()
              Journal::text(journal.lines().first()) + '\n' + Journal::text(journal.lines().last()));
     auto *set = child<QTreeWidget>(&window, "twFailures");
     set->setCurrentItem(set->topLevelItem(0));
-    ModalScript::press(&window, "pbtnRemoveFailure");
+    Cashier::tryPress(&window, "pbtnRemoveFailure");
     QApplication::processEvents();
     QVERIFY(shop.driver.failures().isEmpty());
 }

@@ -183,7 +183,7 @@ void PropertiesTest::protocols()
     };
     const auto storedAfter = [&](const char *first, const char *second) {
         shop.run(ShowProperties, {press("pbtnSettingsButton"), change, press(first), press(second)});
-        return shop.completed && shop.stored(parameters.section('/', 2).toUtf8()).isValid();
+        return shop.stored(parameters.section('/', 2).toUtf8()).isValid();
     };
     QVERIFY(!storedAfter("pbtnCancel", "pbtnOk"));
     QVERIFY(!storedAfter("pbtnOk", "pbtnCancel"));
@@ -299,7 +299,6 @@ void PropertiesTest::refusals()
         shop.driver.clearJournal();
         shop.driver.failOperation(operation, refused);
         QCOMPARE(shop.run(ShowProperties, {message, press("OK")}), -1);
-        QVERIFY(shop.completed);
         QCOMPARE(shop.calls("setSettings"), 0);
         shop.driver.clearFailures();
     }
@@ -373,7 +372,7 @@ void PropertiesTest::operatorList()
         QListWidget *list = child<QListWidget>(window, "lwOperators");
         QVERIFY(list->currentRow() == 3 && list->currentItem()->isSelected());
         child<QListWidget>(window, "lwOperators")->setCurrentRow(1);
-        ModalScript::press(window, "pbtnDelete");
+        press("pbtnDelete")(window);
     };
     const std::vector<Step> steps = {press("pbtnOperators"), look,
                                      press("pbtnEdit"),      rename("Связь-2"),
@@ -392,7 +391,6 @@ void PropertiesTest::operatorList()
     std::vector<Step> accepted = steps;
     accepted.insert(accepted.end(), {press("pbtnOk"), press("pbtnOk")});
     QCOMPARE(shop.run(ShowProperties, accepted), 1);
-    QVERIFY(shop.completed);
     QCOMPARE(shop.stored("Operators").toInt(), 3);
     QStringList names;
     for (const char *record : {"Operator0", "Operator1", "Operator2"}) {
@@ -418,7 +416,6 @@ void PropertiesTest::operatorDeletion()
     QCOMPARE(shop.run(ShowProperties,
                       {press("pbtnOperators"), remove, remove, press("pbtnEdit"), press("pbtnOk"), press("pbtnOk")}),
              1);
-    QVERIFY(shop.completed);
     QCOMPARE(shop.stored("Operators").toInt(), 0);
     QVERIFY(!shop.stored("Operator0").isValid());
 }
@@ -476,7 +473,6 @@ void PropertiesTest::operatorRules()
         });
     };
     shop.run(ShowProperties, {press("pbtnOperators"), edit, rules, press("pbtnOk"), press("pbtnOk"), press("pbtnOk")});
-    QVERIFY(shop.completed);
     QCOMPARE(nested(shop, "Operator0").get("MinSum").toString(), QString("100"));
 }
 
@@ -543,7 +539,6 @@ void PropertiesTest::typedNumbers()
              {press("pbtnOperators"), press("pbtnAdd"), enterAll, press("pbtnCancel"), key(Qt::Key_Escape),
               press("pbtnSettingsButton"), enterWhole, press("pbtnCancel"), press("pbtnCancel")});
     QLocale::setDefault(before);
-    QVERIFY(shop.completed);
 }
 
 // Stored values that a form cannot show as they are, and what is stored after OK.
@@ -575,7 +570,6 @@ void PropertiesTest::oddValues()
         QCOMPARE(shop.run(ShowProperties, {press("pbtnSettingsButton"), press("pbtnOk"), press("pbtnOperators"), select,
                                            press("pbtnEdit"), press("pbtnOk"), press("pbtnOk"), press("pbtnOk")}),
                  1);
-        QVERIFY(shop.completed);
         const QString saved = nested(shop, "Operator0").get(row.key).toString();
         QVERIFY2(saved == row.saved || shop.stored(row.key).toString() == row.saved, row.key);
     }
@@ -638,12 +632,10 @@ void PropertiesTest::longTexts()
             timer.start();
             shop.run(ShowProperties, {press("pbtnSlip"), fits, press("pbtnOk"), press("pbtnOperators"), fits,
                                       press("pbtnOk"), press("pbtnOk"), error, press("pbtnOk")});
-            QVERIFY(shop.completed);
             QCOMPARE(nested(shop, "Slip").get("Header").toString(), text);
             QCOMPARE(nested(shop, "Operator0").get("Name").toString(), text);
             for (const EntryPoint call : {ConfirmPayment, SelectOperator, CommissionAddition}) {
                 shop.run(call, {fits, key(Qt::Key_Escape)});
-                QVERIFY(shop.completed);
             }
             QVERIFY2(timer.elapsed() < 20000, qPrintable(QString("%1 ms").arg(timer.elapsed())));
         }
@@ -836,7 +828,6 @@ void PropertiesTest::terminalPages()
         const auto open = [&](const QString &stored, const Step &step) {
             Register shop({{"Protocol", protocol}, {"Port", stored}});
             shop.run(ShowProperties, {press("pbtnSettingsButton"), step, press("pbtnCancel"), press("pbtnCancel")});
-            QVERIFY(shop.completed);
         };
         for (const auto &row : rows) {
             open(row.stored, look(row.port, row.page, ports));

@@ -210,8 +210,7 @@ void ToolkitTest::files()
     };
     // The toolkit's own question is no last window of the host either.
     QSignalSpy lastWindow(qApp, SIGNAL(lastWindowClosed()));
-    ModalScript replace({[](QWidget *window) { QTimer::singleShot(0, window, SLOT(accept())); },
-                         [](QWidget *question) { ModalScript::press(question, "Yes"); }});
+    ModalScript replace({[](QWidget *window) { QTimer::singleShot(0, window, SLOT(accept())); }, press("Yes")});
     QCOMPARE(replace.run([&] {
         return NoHelpButtonFileDialog::getSaveFileName(nullptr, "T", path + "/x.a", QString(), nullptr).isEmpty();
     }),

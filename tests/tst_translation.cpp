@@ -91,7 +91,6 @@ void TranslationTest::takenWithEachWindow()
         Register shop({{"Protocol", 11}});
         QCOMPARE(
             shop.run(ShowProperties, {press("pbtnSettingsButton"), look, press("pbtnCancel"), press("pbtnCancel")}), 0);
-        QVERIFY(shop.completed);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLibraryInfo>
 #include <QMessageBox>
+#include <QPixmap>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -251,6 +252,15 @@ inline void keepAboveActiveWindow(QWidget &window)
     window.windowHandle()->setTransientParent(active->windowHandle());
 #else
     window.setWindowFlags(window.windowFlags() | (active->windowFlags() & Qt::WindowStaysOnTopHint));
+#endif
+}
+
+inline QPixmap picture(QWidget &widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return widget.grab();
+#else
+    return QPixmap::grabWidget(&widget);
 #endif
 }
 

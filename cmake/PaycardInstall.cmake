@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# Installation: the library, its translations and headers, a CMake package and a pkg-config file, the checker.
+# Installation: the library, its translations and headers, a CMake package and a pkg-config file, the checker of drivers.
+# The test kit is a component of that package with a file of targets of its own.
 
 include(CMakePackageConfigHelpers)
 
@@ -31,6 +32,20 @@ install(EXPORT paycard_guiTargets
     NAMESPACE paycard_gui::
     DESTINATION ${package_dir}
     COMPONENT development)
+if(PAYCARD_BUILD_TEST_KIT AND NOT PAYCARD_QT_VERSION EQUAL 4)
+    install(TARGETS paycard_testing
+        EXPORT paycard_guiTestingTargets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+    list(TRANSFORM PAYCARD_TESTING_HEADERS PREPEND testing/)
+    install(FILES ${PAYCARD_TESTING_HEADERS}
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/paycard_gui/testing
+        COMPONENT development)
+    install(EXPORT paycard_guiTestingTargets
+        NAMESPACE paycard_gui::
+        DESTINATION ${package_dir}
+        COMPONENT development)
+endif()
+
 configure_package_config_file(cmake/paycard_guiConfig.cmake.in paycard_guiConfig.cmake
     INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(paycard_guiConfigVersion.cmake COMPATIBILITY SameMajorVersion)

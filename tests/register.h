@@ -12,8 +12,10 @@
 
 #include <utility>
 
+using Cashier::choose;
 using Cashier::key;
 using Cashier::press;
+using Cashier::type;
 
 typedef int (*EntryPoint)(NOX::PayCard::IPayCard *, QWidget *);
 typedef std::vector<std::pair<QString, QVariant>> Values;

@@ -46,6 +46,7 @@ private slots:
     void inputs();
     void files();
     void about();
+    void scripts();
 
 private:
     static bool hasHelpButton(const QWidget *window)
@@ -262,6 +263,35 @@ void ToolkitTest::about()
     QCOMPARE(child<QLabel>(&other, "label_driver")->text(), QString());
     QCOMPARE(child<QLabel>(&other, "label_gui")->text(), QString("Модуль"));
     QVERIFY(child<QWidget>(&other, "header_container")->styleSheet().isEmpty());
+}
+
+// A script says what kept it from its end, and the call returns all the same.
+void ToolkitTest::scripts()
+{
+    QString text;
+    const struct
+    {
+        std::vector<ModalScript::Step> steps;
+        const char *problem;
+    } rows[] = {
+        {{press("nothing")}, "after 1 of 1 steps: QInputDialog \"T\": \"nothing\" cannot be pressed"},
+        {{type("nothing", "x"), press("OK")}, "after 1 of 2 steps: QInputDialog \"T\": there is no \"nothing\""},
+        {{choose("l", "x")}, "after 1 of 1 steps: QInputDialog \"T\": \"l\" has no item \"x\""},
+        {{Cashier::read("l", &text)}, "after 1 of 1 steps: QInputDialog \"T\" was left open"},
+        {{press("OK"), press("OK")}, "after 1 of 2 steps: the call has returned"},
+        {{type("l", "a\U0001F600&ж"), Cashier::read("l", &text), key(Qt::Key_Escape)}, ""},
+        {{[](QWidget *) {}, Cashier::photograph("/no/such/directory/x.png")},
+         "after 2 of 2 steps: QInputDialog \"T\": /no/such/directory/x.png cannot be written"},
+    };
+    for (const auto &row : rows) {
+        ModalScript script(row.steps);
+        script.run([] {
+            NoHelpButtonInputDialog::getText(nullptr, "T", "&l:", QLineEdit::Normal, "x");
+            return 0;
+        });
+        QCOMPARE(script.problem(), QString(row.problem));
+    }
+    QCOMPARE(text, QString("a\U0001F600&ж"));
 }
 
 QTEST_MAIN(ToolkitTest)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
 # Packages for Debian or for RPM systems, by CPack; script/package makes both. Their components:
-#   runtime, development  what is installed; guides and an example, too
+#   runtime, development  what is installed; guides and examples, too
 #   debug                 the debug symbols of the library
 #   documentation         the API reference, where there is one
 
@@ -57,9 +57,9 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "A payment-card driver loads this library to have a shop's technician set up
 the payment system and a cashier confirm a payment. It is built with
 Qt ${PAYCARD_QT_VERSION}; the driver's process must use the same release.")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package, pkg-config file, guides, an example and a checker of
-drivers for the makers of payment-card drivers and of the driver family's
-other graphical modules.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package, pkg-config file, test kit, checker of drivers, guides
+and examples for the makers of payment-card drivers and of the driver
+family's other graphical modules.")
 set(CPACK_COMPONENT_DEBUG_DESCRIPTION "What a debugger needs to name the library's functions and source lines.")
 set(CPACK_COMPONENT_DOCUMENTATION_DESCRIPTION "HTML pages with each function and class of the library.")
 
@@ -146,6 +146,13 @@ install(DIRECTORY docs examples DESTINATION ${development_documents}
 if(PAYCARD_REFERENCE)
     install(DIRECTORY ${PAYCARD_REFERENCE}/ DESTINATION ${documentation_documents}/html
         COMPONENT documentation EXCLUDE_FROM_ALL)
+endif()
+# CPack leaves the debug symbols in static libraries.
+if(PAYCARD_BUILD_TEST_KIT AND NOT PAYCARD_QT_VERSION EQUAL 4)
+    install(CODE "
+        execute_process(COMMAND \"${CMAKE_STRIP}\" --strip-debug --enable-deterministic-archives
+            \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:paycard_testing>\")"
+        COMPONENT development EXCLUDE_FROM_ALL)
 endif()
 # Where debuggers look for the symbols of a file with this build id.
 install(CODE "

@@ -51,7 +51,7 @@ private:
         const bool isNew = window && window != opened && window->isActiveWindow();
         if (isNew && !buttons.isEmpty()) {
             opened = window;
-            QVERIFY(ModalScript::press(window, buttons.takeFirst()));
+            QVERIFY(Cashier::tryPress(window, buttons.takeFirst()));
         } else if (isNew && check) {
             Check last;
             std::swap(last, check);
@@ -130,11 +130,11 @@ public:
     bool arrived = false;
 };
 
-/// Taps a key that is in the lowest row of every layout: the space bar or the zero.
+/// Taps the middle of the second row, where every layout has a letter or a digit.
 void tapKey()
 {
     const QRect keys = keyboard();
-    const QPoint key(keys.center().x() - keys.width() / 25, keys.bottom() - keys.height() / 10);
+    const QPoint key(keys.left() + keys.width() * 53 / 100, keys.top() + keys.height() * 41 / 100);
     const QWindowList windows = QGuiApplication::allWindows();
     for (QWindow *window : windows) {
         if (window->inherits("QQuickWindow") && window->isVisible()) {

@@ -5,15 +5,24 @@
 #include "testing/librarypaycard.h"
 #include "testing/simulateddriver.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QLayout>
 #include <QMap>
 #include <QPointer>
 #include <QWidget>
+
+#include <chrono>
+#include <thread>
 
 namespace {
 
 using Cashier::choose;
 using Cashier::press;
 using Cashier::type;
+
+const auto PollInterval = std::chrono::milliseconds(5);
+const int LayoutTimeout = 500; // ms
 
 const Failure Refusal = {Fault::Refuse, 12, "Настройки не приняты", "порт занят другой программой"};
 
@@ -139,6 +148,24 @@ void prepareDriver(SimulatedDriver &driver, const Scene &scene, const Operation 
     }
 }
 
+bool isLaidOut(const QWidget &window)
+{
+    const QLayout *layout = window.layout();
+    const QSize size = window.size().expandedTo(layout->totalMinimumSize());
+    return size == window.size() &&
+           (!layout->hasHeightForWidth() || size.height() >= layout->totalHeightForWidth(size.width()));
+}
+
+/// A window manager gives a window its size when it likes. The script's own timer must not run meanwhile.
+void waitForLayout(const QWidget &window)
+{
+    QElapsedTimer waiting;
+    for (waiting.start(); !isLaidOut(window) && !waiting.hasExpired(LayoutTimeout);) {
+        QCoreApplication::processEvents(QEventLoop::X11ExcludeTimers);
+        std::this_thread::sleep_for(PollInterval);
+    }
+}
+
 /// Plays the scene up to its last window, which `visit` gets. Empty when that came, otherwise the reason.
 QString visitScene(const Scene &scene, const LibraryPaycard &library, const Operation &operation,
                    const WindowVisitor &visit)
@@ -164,6 +191,7 @@ QString visitScene(const Scene &scene, const LibraryPaycard &library, const Oper
     }
     steps.emplace_back([&](QWidget *window) {
         expectAnotherThan(opener, window);
+        waitForLayout(*window);
         visit(scene.name, window);
         visited = true;
     });

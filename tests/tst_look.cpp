@@ -169,6 +169,77 @@ QStringList tabProblems(const QWidget *window)
     return problems;
 }
 
+/// Of two colours, from 1 to 21. That of the brightness which people see: red and green and blue differ in theirs.
+double contrast(const QColor &one, const QColor &other)
+{
+    const auto luminance = [](const QColor &color) {
+        const auto linear = [](double part) { return std::pow(part, 2.2); };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    };
+    const double luminances[] = {luminance(one) + 0.05, luminance(other) + 0.05};
+    return std::max(luminances[0], luminances[1]) / std::min(luminances[0], luminances[1]);
+}
+
+/// The contrast of a widget's text and what it is drawn on: the colour that most of it has, more or less. A label,
+/// which may have links, has nothing but its text, so that is what differs most; others draw theirs as the palette
+/// says.
+double textContrast(const QWidget *widget, const QImage &picture)
+{
+    QMap<QRgb, int> pixels;
+    const QRect shown = widget->visibleRegion().boundingRect().translated(widget->mapTo(widget->window(), QPoint()));
+    for (int x = shown.left(); x <= shown.right(); ++x) {
+        for (int y = shown.top(); y <= shown.bottom(); ++y) {
+            ++pixels[(picture.pixel(x, y) & 0xf8f8f8) | 0x040404];
+        }
+    }
+    const QList<QRgb> colors = pixels.keys();
+    const QRgb ground = *std::max_element(colors.begin(), colors.end(),
+                                          [&](QRgb one, QRgb other) { return pixels[one] < pixels[other]; });
+    const QAbstractScrollArea *area = qobject_cast<const QAbstractScrollArea *>(widget);
+    const QWidget *drawn = area ? area->viewport() : widget;
+    double most = isOneOf<QLabel>(widget) ? 1 : contrast(drawn->palette().color(drawn->foregroundRole()), ground);
+    for (int i = 0; i < colors.size() && isOneOf<QLabel>(widget); ++i) {
+        most = std::max(most, contrast(colors[i], ground));
+    }
+    return most;
+}
+
+/// Texts that cannot be read well, with their contrast.
+QStringList contrastProblems(QWidget *window)
+{
+    QStringList problems;
+    QImage picture(window->size(), QImage::Format_RGB32);
+    window->render(&picture);
+    const QList<QWidget *> widgets = window->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const QVariant text = widget->property("text");
+        const bool hasText = text.isValid() ? !text.toString().remove(QRegularExpression("<[^>]*>")).isEmpty()
+                                            : isOneOf<QComboBox, QGroupBox, QAbstractItemView, QTextEdit>(widget);
+        if (hasText && widget->isEnabled() && !widget->visibleRegion().isEmpty()) {
+            const double found = textContrast(widget, picture);
+            if (found < 4.5) {
+                problems += QString("%1 %2: contrast %3")
+                                .arg(widget->metaObject()->className(), widget->objectName())
+                                .arg(found);
+            }
+        }
+    }
+    return problems;
+}
+
+/// A usual dark theme.
+void useDarkPalette()
+{
+    const QColor ground(0x35, 0x35, 0x35);
+    QPalette palette(Qt::white, ground, ground.lighter(), ground.darker(), ground.darker(120), Qt::white,
+                     QColor(0x23, 0x23, 0x23));
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    palette.setColor(QPalette::Link, QColor(0x2a, 0x82, 0xda));
+    QApplication::setStyle("Fusion");
+    QApplication::setPalette(palette);
+}
+
 QStringList windowProblems(const QWidget *window)
 {
     QStringList problems = tabProblems(window);
@@ -199,16 +270,19 @@ void LookTest::windows_data()
 {
     QTest::addColumn<double>("points");
     QTest::addColumn<bool>("english");
-    QTest::newRow("100 %") << 9.0 << false;
-    QTest::newRow("150 %") << 13.5 << false;
-    QTest::newRow("200 %") << 18.0 << false;
-    QTest::newRow("English") << 9.0 << true;
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("100 %") << 9.0 << false << false;
+    QTest::newRow("150 %") << 13.5 << false << false;
+    QTest::newRow("200 %") << 18.0 << false << false;
+    QTest::newRow("English") << 9.0 << true << false;
+    QTest::newRow("dark") << 13.5 << false << true;
 }
 
 void LookTest::windows()
 {
     QFETCH(double, points);
     QFETCH(bool, english);
+    QFETCH(bool, dark);
     QTranslator translator;
     if (english) {
         QVERIFY(translator.load("paycard_gui_en", PAYCARD_TRANSLATIONS));
@@ -217,6 +291,9 @@ void LookTest::windows()
     QFont font = QApplication::font();
     font.setPointSizeF(points);
     QApplication::setFont(font);
+    if (dark) {
+        useDarkPalette();
+    }
 
     LibraryPaycard library;
     QString reason;
@@ -229,13 +306,7 @@ void LookTest::windows()
     int visited = 0;
     const QMap<QString, QString> missing = visitWindows(library, operation, [&](const QString &name, QWidget *window) {
         ++visited;
-        QStringList found = windowProblems(window);
-        // A window manager gives a window its size when it likes. The tour's own timer must not run meanwhile.
-        for (int i = 0; i < 50 && !found.isEmpty(); ++i) {
-            QTest::qSleep(10);
-            QCoreApplication::processEvents(QEventLoop::X11ExcludeTimers);
-            found = windowProblems(window);
-        }
+        const QStringList found = windowProblems(window) + (dark ? contrastProblems(window) : QStringList());
         for (const QString &problem : found) {
             problems += name + ": " + problem;
         }

@@ -7,6 +7,8 @@
 #include <QHeaderView>
 #include <QItemDelegate>
 #include <QPixmap>
+#include <QTextCursor>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -56,6 +58,33 @@ void setNameAndVersion(QLabel *label, const QString &name, const QString &versio
     ShownText::show(label, name.isEmpty() || version.isEmpty() ? name : name + QLatin1Char('\n') + version);
 }
 
+/// For texts on a background that is light in every palette.
+void darkenText(QWidget *widget)
+{
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::WindowText, Qt::black);
+    palette.setColor(QPalette::Text, Qt::black);
+    widget->setPalette(palette);
+}
+
+/// The same for labels, which take no palette from a widget with a style sheet. Links have the colour of the
+/// application's, given them when the label reads its text: to measure it.
+void darkenLabels(const QWidget *parent)
+{
+    QTextCharFormat link;
+    link.setForeground(Qt::blue);
+    const QList<QLabel *> labels = parent->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        darkenText(label);
+        label->sizeHint();
+        if (QTextDocument *document = label->findChild<QTextDocument *>()) {
+            QTextCursor text(document);
+            text.select(QTextCursor::Document);
+            text.mergeCharFormat(link);
+        }
+    }
+}
+
 } // namespace
 
 DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion, QWidget *parent)
@@ -64,6 +93,7 @@ DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion
 {
     ui->tree_license->setItemDelegate(new NoFocusItemDelegate(ui->tree_license));
     ui->header_container->setStyleSheet(tr("#header_container{background-color: rgb(255, 255, 255);}"));
+    darkenLabels(ui->header_container);
 }
 
 DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion, const QString &guiName,
@@ -110,6 +140,8 @@ void DialogAbout::setLicenseInfo()
         license->setOpenExternalLinks(true);
         ui->tree_license->setItemWidget(item, 2, license);
     }
+    darkenText(ui->tree_license);
+    darkenLabels(ui->tree_license);
     for (int column = 0; column < ui->tree_license->columnCount(); ++column) {
         // Wider than the default where the font asks for it.
         ui->tree_license->resizeColumnToContents(column);

@@ -8,6 +8,7 @@
 #include "common/windowfit.h"
 
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QMap>
 #include <QPainter>
 
@@ -66,6 +67,10 @@ void alignLabels(QWidget *form)
         if (label->buddy()) {
             label->setMinimumSize(widths.value(columnOf(label)),
                                   std::max(label->sizeHint().height(), NoHelpButtonDialog::TouchHeight));
+        }
+        QLineEdit *edit = qobject_cast<QLineEdit *>(label->buddy());
+        if (edit && edit->inputMask().isEmpty()) {
+            edit->setMinimumWidth(edit->sizeHint().width());
         }
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "windowtour.h"
 
+#include "common/qtcompat.h"
 #include "testing/cashier.h"
 #include "testing/librarypaycard.h"
 #include "testing/simulateddriver.h"
@@ -148,12 +149,15 @@ void prepareDriver(SimulatedDriver &driver, const Scene &scene, const Operation 
     }
 }
 
+/// Whether the window is as large as its contents need it to be, or as its screen is.
 bool isLaidOut(const QWidget &window)
 {
     const QLayout *layout = window.layout();
-    const QSize size = window.size().expandedTo(layout->totalMinimumSize());
-    return size == window.size() &&
-           (!layout->hasHeightForWidth() || size.height() >= layout->totalHeightForWidth(size.width()));
+    const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(window.width()) : 0;
+    const QSize frame = window.frameGeometry().size() - window.size();
+    const QSize needed = layout->totalMinimumSize().expandedTo(QSize(0, height));
+    const QSize size = needed.boundedTo(QtCompat::availableGeometry(window).size() - frame);
+    return size.boundedTo(window.size()) == size;
 }
 
 /// A window manager gives a window its size when it likes. The script's own timer must not run meanwhile.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/dialog_about.h"
 
+#include "common/qtcompat.h"
 #include "common/showntext.h"
 #include "ui_dialog_about.h"
 
 #include <QHeaderView>
 #include <QItemDelegate>
-#include <QPixmap>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -122,9 +122,10 @@ void DialogAbout::setGuiName(const QString &name, const QString &version)
 void DialogAbout::setPictures()
 {
     setWindowIcon(QIcon(QString::fromLatin1(":/images/icon_info.png")));
-    const QPixmap logo(QString::fromLatin1(":/images/orma_logo_small.bmp"));
+    const QString file = QString::fromLatin1(":/images/orma_logo_small.bmp");
+    const QPixmap logo(file);
     if (!logo.isNull()) {
-        ui->label_pict->setPixmap(logo);
+        ui->label_pict->setPixmap(QtCompat::sharpened(logo, file, *this));
         ui->label_pict->setMaximumSize(logo.size());
     }
 }

@@ -195,14 +195,14 @@ inline void serveModalWindow(const QRect &keyboard, const QWidget &modal)
 #endif
 }
 
-/// Whether the widget's pixels are not whole numbers of the screen's.
-inline bool isScaledByFraction(const QWidget &widget)
+/// Pixels of the screen, in a row, that one of the widget's takes.
+inline double pixelRatio(const QWidget &widget)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
-    return widget.devicePixelRatioF() != static_cast<int>(widget.devicePixelRatioF());
+    return widget.devicePixelRatioF();
 #else
     Q_UNUSED(widget);
-    return false;
+    return 1;
 #endif
 }
 

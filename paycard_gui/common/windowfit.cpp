@@ -12,6 +12,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -184,7 +185,8 @@ void fitText(QMessageBox &box)
         layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
     }
     const int over = layout->totalHeightForWidth(width) - room.height();
-    if (over > 0 || QtCompat::isScaledByFraction(box)) {
+    const double ratio = QtCompat::pixelRatio(box);
+    if (over > 0 || std::floor(ratio) < ratio) {
         resizeAll(box, QSize(width, room.height()));
         const int highest = std::max(label->heightForWidth(label->width()) - over, box.fontMetrics().height());
         new TextArea(label, &box, QSize(label->width(), highest));

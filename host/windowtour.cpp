@@ -149,7 +149,8 @@ void prepareDriver(SimulatedDriver &driver, const Scene &scene, const Operation 
     }
 }
 
-/// Whether the window is as large as its contents need it to be, or as its screen is.
+/// Whether the window is as large as its contents need it to be, or as its screen is. A scale factor
+/// may take a pixel from it.
 bool isLaidOut(const QWidget &window)
 {
     const QLayout *layout = window.layout();
@@ -157,7 +158,7 @@ bool isLaidOut(const QWidget &window)
     const QSize frame = window.frameGeometry().size() - window.size();
     const QSize needed = layout->totalMinimumSize().expandedTo(QSize(0, height));
     const QSize size = needed.boundedTo(QtCompat::availableGeometry(window).size() - frame);
-    return size.boundedTo(window.size()) == size;
+    return size.boundedTo(window.size() + QSize(1, 1)) == size;
 }
 
 /// A window manager gives a window its size when it likes. The script's own timer must not run meanwhile.

@@ -118,12 +118,12 @@ bool isClipped(const QWidget *widget)
     }
     const QLabel *label = qobject_cast<const QLabel *>(widget);
     if (label && label->wordWrap()) {
-        return label->height() < label->heightForWidth(label->width());
+        // A scale factor may have taken a pixel from the window, here and below.
+        return label->height() < label->heightForWidth(label->width()) - 1;
     }
     if (isOneOf<QLabel, QPushButton, QCheckBox, QAbstractSpinBox>(widget)) {
         return widget->width() < widget->sizeHint().width() || widget->height() < widget->sizeHint().height();
     }
-    // A scale factor may have taken a pixel from the window.
     const QSize lacks = widget->minimumSizeHint() - widget->size();
     return lacks.width() > 1 || lacks.height() > 1;
 }

@@ -112,6 +112,7 @@ void ApplicationTest::directories()
 
     // The old toolkit's own loader knows no compression but zlib.
     QCOMPARE(QResource(":/images/orma_logo_small.bmp").compressionAlgorithm(), QResource::ZlibCompression);
+    QCOMPARE(QResource(":/images/orma_logo_small@2x.bmp").compressionAlgorithm(), QResource::ZlibCompression);
     QCOMPARE(QResource(":/images/icon_info.png").compressionAlgorithm(), QResource::NoCompression);
     QCOMPARE(qCleanupResources_paycard_gui(), 1);
     QVERIFY(!QFile::exists(":/images/icon_info.png"));

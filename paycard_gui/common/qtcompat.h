@@ -206,6 +206,31 @@ inline double pixelRatio(const QWidget &widget)
 #endif
 }
 
+/// Whether the widget's pixels are not whole numbers of the screen's.
+inline bool isScaledByFraction(const QWidget &widget)
+{
+    return pixelRatio(widget) != static_cast<int>(pixelRatio(widget));
+}
+
+/// The picture of this file in as many pixels as the widget's screen has for it: from the file of double size beside
+/// it.
+inline QPixmap sharpened(const QPixmap &picture, const QString &file, const QWidget &widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
+    const double ratio = pixelRatio(widget);
+    const QPixmap twice(QString(file).insert(file.lastIndexOf(QLatin1Char('.')), QLatin1String("@2x")));
+    if (ratio > 1 && !twice.isNull()) {
+        QPixmap sharp = twice.scaled(picture.size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        sharp.setDevicePixelRatio(ratio);
+        return sharp;
+    }
+#else
+    Q_UNUSED(file);
+    Q_UNUSED(widget);
+#endif
+    return picture;
+}
+
 /// Whether the application object has been created to show widgets. That of the oldest release may have been told
 /// not to, though its class is the same.
 inline bool showsWidgets()

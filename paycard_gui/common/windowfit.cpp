@@ -12,7 +12,6 @@
 #include <QStyle>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -185,8 +184,7 @@ void fitText(QMessageBox &box)
         layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
     }
     const int over = layout->totalHeightForWidth(width) - room.height();
-    const double ratio = QtCompat::pixelRatio(box);
-    if (over > 0 || std::floor(ratio) < ratio) {
+    if (over > 0 || QtCompat::isScaledByFraction(box)) {
         resizeAll(box, QSize(width, room.height()));
         const int highest = std::max(label->heightForWidth(label->width()) - over, box.fontMetrics().height());
         new TextArea(label, &box, QSize(label->width(), highest));

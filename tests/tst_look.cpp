@@ -16,6 +16,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QStyleFactory>
 #include <QStyleOptionComboBox>
 #include <QTextEdit>
 #include <QToolButton>
@@ -283,7 +284,10 @@ void LookTest::windows_data()
     QTest::newRow("150 %") << 13.5 << false << false;
     QTest::newRow("200 %") << 18.0 << false << false;
     QTest::newRow("English") << 9.0 << true << false;
-    QTest::newRow("dark") << 13.5 << false << true;
+    // The style that is made for them; the styles of Qt 4.8 mix their own colours.
+    if (QStyleFactory::keys().contains("Fusion")) {
+        QTest::newRow("dark") << 13.5 << false << true;
+    }
 }
 
 void LookTest::windows()

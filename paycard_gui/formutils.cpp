@@ -8,21 +8,11 @@
 #include "common/windowfit.h"
 
 #include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMap>
-#include <QPainter>
 
 #include <algorithm>
-
-void ErrorLine::paintEvent(QPaintEvent *event)
-{
-    const QPalette around = window()->palette();
-    const bool isDark = around.color(QPalette::Window).lightness() < around.color(QPalette::WindowText).lightness();
-    if (isDark && !text().isEmpty()) {
-        QPainter(this).fillRect(rect(), Qt::black);
-    }
-    QLabel::paintEvent(event);
-}
 
 void showError(QLabel *line, const QString &text)
 {

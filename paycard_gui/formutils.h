@@ -2,17 +2,9 @@
 #ifndef FORMUTILS_H
 #define FORMUTILS_H
 
-#include <QLabel>
-
-/// A window's error line. Its red cannot be read on the background of a dark palette, so there it brings its own.
-class ErrorLine : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
-};
+class QLabel;
+class QString;
+class QWidget;
 
 /// Shows the text in a window's error line; the window grows as high as it then needs to be. In a window that is open
 /// a new error is announced to a screen reader, too; with a window that opens its error is read anyway.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/onscreenkeyboard.h"
 
+#include "common/errorline.h"
 #include "common/qtcompat.h"
 #include "common/windowfit.h"
 
@@ -95,11 +96,12 @@ private slots:
 private:
     void keepInSight(QWidget *input, const QRect &keyboard);
     void repeatError();
+    void moveTo(const QPoint &place);
 
     QWidget *window;
     QPointer<QLabel> errorLine;
     QPointer<QLabel> repeated;
-    /// Where the window was before it was moved.
+    /// Where the window was before it was moved: its inner part, as that of the frame is not known from the start.
     QPoint home;
     bool moved = false;
     QTimer goingHome;
@@ -128,7 +130,7 @@ void KeyboardFollower::goHome()
     delete repeated;
     if (moved) {
         moved = false;
-        window->move(home);
+        moveTo(home);
         keepOnScreen(*window);
     }
 }
@@ -136,9 +138,9 @@ void KeyboardFollower::goHome()
 void KeyboardFollower::keepInSight(QWidget *input, const QRect &keyboard)
 {
     scrollTo(input);
-    home = moved ? home : window->pos();
+    home = moved ? home : window->geometry().topLeft();
     // All places are those of a window at home.
-    const QPoint back = home - window->pos();
+    const QPoint back = home - window->geometry().topLeft();
     const int bottom = keyboard.top() - Margin;
     const int top = QtCompat::availableGeometry(*window).top();
     const QRect place = placeOfInput(*window, input, bottom - top).translated(back);
@@ -155,19 +157,24 @@ void KeyboardFollower::keepInSight(QWidget *input, const QRect &keyboard)
         delete repeated;
     }
     moved = shift > 0;
-    const QPoint away = home - QPoint(0, shift);
-    if (window->pos() != away) {
-        window->move(away);
-    }
+    moveTo(home - QPoint(0, shift));
     if (repeated) {
         repeated->move(0, window->mapFromGlobal(keyboard.topLeft()).y() - repeated->height());
+    }
+}
+
+void KeyboardFollower::moveTo(const QPoint &place)
+{
+    const QPoint way = place - window->geometry().topLeft();
+    if (!way.isNull()) {
+        window->move(window->pos() + way);
     }
 }
 
 void KeyboardFollower::repeatError()
 {
     if (!repeated) {
-        repeated = new QLabel(window);
+        repeated = new ErrorLine(window);
         repeated->setAutoFillBackground(true);
         repeated->setFrameShape(QFrame::StyledPanel);
         repeated->setMargin(Margin);

@@ -17,9 +17,7 @@
 #include <algorithm>
 #include <string>
 
-#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
-#include <QScreen>
-#else
+#if QT_VERSION < QT_VERSION_CHECK(5, 14, 0)
 #include <QDesktopWidget>
 #endif
 
@@ -29,6 +27,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QPluginLoader>
+#include <QScreen>
 #include <QWindow>
 #endif
 
@@ -163,13 +162,14 @@ inline void connectKeyboard(QObject *receiver, const char *slot)
 #endif
 }
 
-/// What the on-screen keyboard covers of the screen that the widget is on; empty while there is none.
+/// What the on-screen keyboard covers of the screen that the window is on; empty while there is none.
 inline QRect keyboardGeometry(const QWidget &widget)
 {
-#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
     const QInputMethod *keyboard = QGuiApplication::inputMethod();
-    return keyboard->isVisible()
-               ? keyboard->keyboardRectangle().toRect().translated(widget.screen()->geometry().topLeft())
+    const QWindow *window = widget.windowHandle();
+    return window && keyboard->isVisible()
+               ? keyboard->keyboardRectangle().toRect().translated(window->screen()->geometry().topLeft())
                : QRect();
 #else
     Q_UNUSED(widget);

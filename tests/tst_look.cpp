@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "common/nohelpbuttondialogs.h"
 #include "common/qtcompat.h"
 #include "testing/librarypaycard.h"
+#include "testing/modalscript.h"
 #include "testing/simulateddriver.h"
 #include "windowtour.h"
 
@@ -33,6 +35,7 @@ class LookTest : public QObject
 private slots:
     void windows_data();
     void windows();
+    void toolkitDialogs();
 };
 
 namespace {
@@ -333,6 +336,26 @@ void LookTest::windows()
     QVERIFY2(problems.isEmpty(), qPrintable('\n' + problems.join("\n")));
     QCOMPARE(missing, (QMap<QString, QString>()));
     QVERIFY(visited >= 27);
+}
+
+void LookTest::toolkitDialogs()
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(13.5);
+    QApplication::setFont(font);
+    QSize lacks(0, 0);
+    const auto compareToScreen = [&](QWidget *window) {
+        lacks = lacks.expandedTo(window->frameGeometry().size() - QtCompat::availableGeometry(*window).size());
+    };
+    ModalScript files({compareToScreen});
+    files.run([] { return NoHelpButtonFileDialog::getSaveFileName(nullptr, "Файл", "/tmp").size() > 0; });
+    ModalScript texts({compareToScreen});
+    const QString label = QString("Введите код доступа к терминалу. ").repeated(3);
+    texts.run(
+        [&] { return NoHelpButtonInputDialog::getText(nullptr, "Код", label, QLineEdit::Normal, "").size() > 0; });
+    QVERIFY(files.completed() && texts.completed());
+    QVERIFY2(lacks.width() <= 1 && lacks.height() <= 1,
+             qPrintable(QString("%1, %2").arg(lacks.width()).arg(lacks.height())));
 }
 
 QTEST_MAIN(LookTest)

@@ -104,6 +104,7 @@ bool runToAcceptance(const ScopedDialog<Dialog> &dialog)
 {
     makeGuest(*dialog);
     prepareToUse(*dialog);
+    fitLabels(*dialog);
     showOnTop(*dialog);
     return dialog->exec() == QDialog::Accepted && dialog;
 }

@@ -191,6 +191,25 @@ void fitText(QMessageBox &box)
     }
 }
 
+void fitLabels(QDialog &dialog)
+{
+    const QSize room = roomFor(dialog);
+    // An input dialog has neither a size nor a layout before it is asked for the size that it wants.
+    const QSize hint = dialog.sizeHint();
+    const QSize wanted = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : hint;
+    QLayout *layout = dialog.layout();
+    if (layout->totalMinimumSize().width() > room.width()) {
+        const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
+        for (QLabel *label : labels) {
+            label->setWordWrap(true);
+        }
+        layout->activate();
+    }
+    if (wanted.boundedTo(room) != wanted) {
+        resizeAll(dialog, sizeFor(dialog, wanted.boundedTo(room)).boundedTo(room));
+    }
+}
+
 void growToContents(QWidget &window)
 {
     QLayout *layout = window.layout();

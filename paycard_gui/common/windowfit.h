@@ -2,6 +2,7 @@
 #ifndef WINDOWFIT_H
 #define WINDOWFIT_H
 
+class QDialog;
 class QMessageBox;
 class QWidget;
 
@@ -14,6 +15,9 @@ void growToContents(QWidget &window);
 /// The same for a message box, which sees to its size itself except that its text may be longer than the screen is
 /// high: that scrolls then.
 void fitText(QMessageBox &box);
+
+/// The same for the toolkit's dialogs of inputs and files.
+void fitLabels(QDialog &dialog);
 
 /// Moves a window that is open and reaches over the lower or right edge of its screen.
 void keepOnScreen(QWidget &window);

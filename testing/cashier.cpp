@@ -9,8 +9,15 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QStringList>
 
 namespace {
+
+/// What it is called, for people: without the mark of its key.
+QString caption(const QAbstractButton *button)
+{
+    return button->text().remove(QLatin1Char('&'));
+}
 
 QAbstractButton *findButton(const QWidget *window, const QString &nameOrCaption)
 {
@@ -20,11 +27,30 @@ QAbstractButton *findButton(const QWidget *window, const QString &nameOrCaption)
         if (button->objectName() == nameOrCaption) {
             return button;
         }
-        if (!captioned && button->text().remove(QLatin1Char('&')) == nameOrCaption) {
+        if (!captioned && caption(button) == nameOrCaption) {
             captioned = button;
         }
     }
     return captioned;
+}
+
+/// Why it cannot be pressed. The captions that are there show a letter of another alphabet that looks the same.
+QString whyNotPressed(const QWidget *window, const QString &nameOrCaption)
+{
+    if (findButton(window, nameOrCaption)) {
+        return QString::fromLatin1("\"%1\" is disabled").arg(nameOrCaption);
+    }
+    QStringList captions;
+    const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
+    for (const QAbstractButton *button : buttons) {
+        if (button->isVisible() && !caption(button).isEmpty()) {
+            captions.append(QString::fromLatin1("\"%1\"").arg(caption(button)));
+        }
+    }
+    const QString missing = QString::fromLatin1("there is no button \"%1\"").arg(nameOrCaption);
+    return captions.isEmpty()
+               ? missing
+               : QString::fromLatin1("%1; there are %2").arg(missing, captions.join(QLatin1String(", ")));
 }
 
 /// A label's text as people would say it.
@@ -108,7 +134,7 @@ ModalScript::Step Cashier::press(const QString &button)
 {
     return [=](QWidget *window) {
         if (!tryPress(window, button)) {
-            throw ModalScript::Impossible{QString::fromLatin1("\"%1\" cannot be pressed").arg(button)};
+            throw ModalScript::Impossible{whyNotPressed(window, button)};
         }
     };
 }

@@ -274,7 +274,10 @@ void ToolkitTest::scripts()
         std::vector<ModalScript::Step> steps;
         const char *problem;
     } rows[] = {
-        {{press("nothing")}, "after 1 of 1 steps: QInputDialog \"T\": \"nothing\" cannot be pressed"},
+        {{press("ОК")},
+         "after 1 of 1 steps: QInputDialog \"T\": there is no button \"ОК\"; there are \"OK\", \"Cancel\""},
+        {{[](QWidget *window) { window->findChild<QPushButton *>()->setEnabled(false); }, press("OK")},
+         "after 2 of 2 steps: QInputDialog \"T\": \"OK\" is disabled"},
         {{type("nothing", "x"), press("OK")}, "after 1 of 2 steps: QInputDialog \"T\": there is no \"nothing\""},
         {{choose("l", "x")}, "after 1 of 1 steps: QInputDialog \"T\": \"l\" has no item \"x\""},
         {{Cashier::read("l", &text)}, "after 1 of 1 steps: QInputDialog \"T\" was left open"},

@@ -171,7 +171,7 @@ void showRefused(ContractSession &session)
     const PutBack putBack{session};
     const QString before = session.settings();
     if (session.setSettings(QStringLiteral("<settings><value name=\"Protocol\">")) >= 0) {
-        session.report("set-refused", Severity::Issue, QStringLiteral("it was taken"));
+        session.report("set-refused", Severity::Issue, QStringLiteral("a document that is not well-formed was taken"));
     } else if (session.settings() != before) {
         session.report("set-refused", Severity::Error, QStringLiteral("refused, but the old one is gone"));
     }

@@ -163,7 +163,8 @@ void ContractTest::program_data()
         QTest::newRow(name) << arguments << breakage << exitCode << line;
     };
     row("minimal", {minimal}, 0, "SKIPPED set-read-back       not without permission to write\n");
-    row("minimal, written", {"--write", minimal}, 0, "ISSUE   set-refused         it was taken. Expected: ");
+    row("minimal, written", {"--write", minimal}, 0,
+        "ISSUE   set-refused         a document that is not well-formed was taken. Expected: ");
     row("broken", {simulated}, 1, "ERROR   amount-finite       getSum: inf. Expected: Amounts are finite (", "endless");
     row("crash", {simulated}, 1, "ERROR   properties-shown    setPropertiesShown crashed (", "crash");
     row("hang", {"--timeout", "1", simulated}, 1, "setPropertiesShown did not return within 1 s. ", "hang");

@@ -89,8 +89,7 @@ QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
         }
         if (rule.writes && !session.mayWrite) {
             note(name, Severity::Skipped,
-                 QLatin1String(mayWrite ? "the settings could not be put back: they are not read well"
-                                        : "not without permission to write"));
+                 mayWrite ? QLatin1String("the settings could not be put back: they are not read well") : whyNotWrite);
         } else if (shown.insert(rule.show).second) {
             rule.show(session);
         }

@@ -29,6 +29,8 @@ public:
 
     /// Permits the rules that change settings or the operator chosen. The settings are put back after each of them.
     bool mayWrite = false;
+    /// Why those rules are left out without it.
+    QString whyNotWrite = QLatin1String("not without permission to write");
     /// Longest time that an operation may take, in milliseconds.
     int mostTime = 100;
     /// Called before each rule.

@@ -173,6 +173,8 @@ void ContractTest::program_data()
     row("kept", {"--write", simulated}, 1, "OK      set-put-back\n", "crash-read");
     row("no settings", {"--write", simulated}, 1, "ERROR   set-put-back        getSettings crashed (",
         "crash-settings");
+    row("given up", {"--write", simulated}, 1,
+        "SKIPPED set-again           the settings could not be put back: see set-put-back\n", "crash-settings");
     row("destroyed", {simulated}, 1, "ERROR   destroyed           destroyPayCard crashed (", "crash-destroyed");
     row("no file", {"none.so"}, 2, "none.so");
     row("no function", {"--create", "make", simulated}, 2, "there is no function make");

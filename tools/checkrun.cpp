@@ -48,7 +48,8 @@ class Worker
 public:
     explicit Worker(int descriptor) : output(::fdopen(descriptor, "w")) {}
 
-    void work(const DriverFile &file, const QStringList &rules, const QString &putBack) const
+    /// Writes if it is permitted and the settings were not given up.
+    void work(const DriverFile &file, bool isGivenUp, const QStringList &rules, const QString &putBack) const
     {
         tell(Operation, QString::fromLatin1(file.create));
         QLibrary library(QFileInfo::exists(file.path) ? QFileInfo(file.path).absoluteFilePath() : file.path);
@@ -69,7 +70,7 @@ public:
             tell(Unusable, QStringLiteral("%1 gives no driver").arg(QLatin1String(file.create)));
             return;
         }
-        check(*driver, file.mayWrite, rules, putBack);
+        check(*driver, file.mayWrite, isGivenUp, rules, putBack);
         tell(Rule, QString());
         tell(Operation, QString::fromLatin1(file.destroy));
         destroy(driver);
@@ -77,10 +78,11 @@ public:
     }
 
 private:
-    void check(NOX::PayCard::IPayCard &driver, bool mayWrite, const QStringList &rules, const QString &putBack) const
+    void check(NOX::PayCard::IPayCard &driver, bool isPermitted, bool isGivenUp, const QStringList &rules,
+               const QString &putBack) const
     {
         ContractChecker checker(driver);
-        checker.mayWrite = mayWrite;
+        checker.mayWrite = isPermitted && !isGivenUp;
         checker.onRule = [this](const QString &rule) { tell(Rule, rule); };
         checker.onCall = [this](const QString &operation) { tell(Operation, operation); };
         checker.onFinding = [this](const ContractFinding &finding) {
@@ -94,12 +96,15 @@ private:
             if (!checker.mayWrite) {
                 tell(Lost, QString());
             }
-        } else if (mayWrite) {
+        } else if (checker.mayWrite) {
             tell(Operation, QStringLiteral("getSettings"));
             const QString settings = checker.settings();
             if (!settings.isNull()) {
                 tell(Settings, settings);
             }
+        }
+        if (isPermitted && !checker.mayWrite) {
+            checker.whyNotWrite = QStringLiteral("the settings could not be put back: see set-put-back");
         }
         checker.check(rules);
     }
@@ -127,9 +132,7 @@ QString endOf(int status)
 
 } // namespace
 
-CheckRun::CheckRun(const DriverFile &driver) : file(driver), left(ContractChecker::rules()), mayWrite(driver.mayWrite)
-{
-}
+CheckRun::CheckRun(const DriverFile &driver) : file(driver), left(ContractChecker::rules()) {}
 
 bool CheckRun::run(QString *reason)
 {
@@ -170,10 +173,8 @@ void CheckRun::work(int output) const
     char name[] = "paycard_check";
     char *arguments[] = {name, nullptr};
     const QCoreApplication application(count, arguments); // a driver may run events
-    DriverFile permitted = file;
-    permitted.mayWrite = mayWrite;
     // The first time they are what they were.
-    Worker(output).work(permitted, left, mayWrite ? settings : QString());
+    Worker(output).work(file, isGivenUp, left, isGivenUp ? QString() : settings);
     ::_exit(EXIT_SUCCESS);
 }
 
@@ -235,7 +236,7 @@ void CheckRun::keep(const ContractFinding &finding)
 void CheckRun::giveUpSettings(const QString &why)
 {
     keep(ContractChecker::finding(QStringLiteral("set-put-back"), Severity::Error, why));
-    mayWrite = false;
+    isGivenUp = true;
 }
 
 /// After a process that ended before its time. False when there is nothing more to try.
@@ -257,7 +258,7 @@ bool CheckRun::goOn(const QString &end)
         isDone = true;
         return true;
     }
-    if (mayWrite && operation != QLatin1String(file.create)) {
+    if (file.mayWrite && !isGivenUp && operation != QLatin1String(file.create)) {
         giveUpSettings(seen);
         return true;
     }

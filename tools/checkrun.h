@@ -44,9 +44,10 @@ private:
     const DriverFile file;
     QStringList left;
     QMap<QString, ContractFinding> found;
-    bool mayWrite;
     /// As they were at first; null until they are known.
     QString settings;
+    /// They could not be read or put back: nothing is written any more.
+    bool isGivenUp = false;
     QString unusable;
     bool isDone = false;
     /// What the driver is at.

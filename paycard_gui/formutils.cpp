@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "formutils.h"
 
+#include "common/errorline.h"
 #include "common/nohelpbuttondialogs.h"
 #include "common/onscreenkeyboard.h"
 #include "common/qtcompat.h"
@@ -18,6 +19,7 @@ void showError(QLabel *line, const QString &text)
 {
     const QString before = line->text();
     ShownText::show(line, text);
+    keepReadable(*line);
     keepAboveKeyboard(*line);
     if (line->window()->isVisible()) {
         growToContents(*line->window());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "settingsdialog.h"
 
+#include "common/errorline.h"
 #include "formutils.h"
 
 #include <QLabel>
@@ -26,6 +27,7 @@ void SettingsDialog::saveSettings()
 
 void SettingsDialog::useErrorLine(QLabel *line, const QString &prefix)
 {
+    keepReadable(*line);
     errorLine = line;
     errorPrefix = prefix;
 }

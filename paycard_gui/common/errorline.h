@@ -2,16 +2,10 @@
 #ifndef ERRORLINE_H
 #define ERRORLINE_H
 
-#include <QLabel>
+class QLabel;
 
-/// A window's error line. Its red cannot be read on the background of a dark palette, so there it brings its own.
-class ErrorLine : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
-};
+/// Gives a window's error line a background of its own while the palette is dark: its red could not be read on that of
+/// the window. To be called as often as one likes.
+void keepReadable(QLabel &errorLine);
 
 #endif

@@ -174,7 +174,8 @@ void KeyboardFollower::moveTo(const QPoint &place)
 void KeyboardFollower::repeatError()
 {
     if (!repeated) {
-        repeated = new ErrorLine(window);
+        repeated = new QLabel(window);
+        keepReadable(*repeated);
         repeated->setAutoFillBackground(true);
         repeated->setFrameShape(QFrame::StyledPanel);
         repeated->setMargin(Margin);

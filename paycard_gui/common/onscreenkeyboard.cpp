@@ -158,7 +158,7 @@ void KeyboardFollower::keepInSight(QWidget *input, const QRect &keyboard)
     }
     moved = shift > 0;
     moveTo(home - QPoint(0, shift));
-    if (repeated) {
+    if (hidesError) {
         repeated->move(0, window->mapFromGlobal(keyboard.topLeft()).y() - repeated->height());
     }
 }

@@ -14,15 +14,15 @@ const char *const ValueEnd = "/value>"; // behind the "<"
 
 struct Escape
 {
-    char character;
     const char *text;
+    char character;
     /// A name is an attribute.
     bool inNamesOnly;
 };
 
 const Escape escapes[] = {
-    {'&', "&amp;", false}, {'<', "&lt;", false},  {'>', "&gt;", false},  {'\r', "&#xd;", false},
-    {'"', "&quot;", true}, {'\n', "&#xa;", true}, {'\t', "&#x9;", true},
+    {"&amp;", '&', false}, {"&lt;", '<', false},  {"&gt;", '>', false},  {"&#xd;", '\r', false},
+    {"&quot;", '"', true}, {"&#xa;", '\n', true}, {"&#x9;", '\t', true},
 };
 
 /// How the character at this place of a document is written; null for as it is.

@@ -34,12 +34,10 @@ QSize roomFor(const QWidget &window)
     return QtCompat::availableGeometry(window).size() - frameOf(window);
 }
 
-/// Width that the title takes between the buttons of its bar.
+/// Width that the title takes between the buttons of its bar. Its font, often a bold one, is a quarter wider at most.
 int titleWidth(const QWidget &window)
 {
-    QFont font = window.font();
-    font.setBold(true);
-    return QFontMetrics(font).boundingRect(window.windowTitle()).width() +
+    return window.fontMetrics().boundingRect(window.windowTitle()).width() * 5 / 4 +
            4 * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
 }
 

@@ -16,7 +16,7 @@ class Probe : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "probe.json")
 
 public:
-    QObject *create(const QString & /*name*/, const QString & /*specification*/) override
+    QObject *create(const QString & /*name*/, const QString & /*parameters*/) override
     {
         FirstPaint *firstPaint = new FirstPaint;
         firstPaint->whenPainted([](QDialog *window) {

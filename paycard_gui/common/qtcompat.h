@@ -218,17 +218,18 @@ inline QPixmap sharpened(const QPixmap &picture, const QString &file, const QWid
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
     const double ratio = pixelRatio(widget);
-    const QPixmap twice(QString(file).insert(file.lastIndexOf(QLatin1Char('.')), QLatin1String("@2x")));
-    if (ratio > 1 && !twice.isNull()) {
-        QPixmap sharp = twice.scaled(picture.size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        sharp.setDevicePixelRatio(ratio);
-        return sharp;
+    if (ratio <= 1) {
+        return picture;
     }
+    const QPixmap twice(QString(file).insert(file.lastIndexOf(QLatin1Char('.')), QLatin1String("@2x")));
+    QPixmap sharp = twice.scaled(picture.size() * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    sharp.setDevicePixelRatio(ratio);
+    return twice.isNull() ? picture : sharp;
 #else
     Q_UNUSED(file);
     Q_UNUSED(widget);
-#endif
     return picture;
+#endif
 }
 
 /// Whether the application object has been created to show widgets. That of the oldest release may have been told

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "cashregisterwindow.h"
 
-#include "common/inputs.h"
-#include "common/qtcompat.h"
 #include "journal.h"
 #include "testing/librarypaycard.h"
 #include "testing/settingsdocument.h"
 #include "testing/simulateddriver.h"
+#include "toolkit/windows.h"
 #include "ui_cashregisterwindow.h"
+#include "window/inputs.h"
 
 #include <QClipboard>
 #include <QDateTime>
@@ -100,7 +100,7 @@ void CashRegisterWindow::arrange()
     // Only where nothing else has a use for the same keys.
     ui->twJournal->addAction(ui->actionCopyJournal);
     // The rest is for the frame.
-    resize(size().boundedTo(QtCompat::availableGeometry(*this).size() * 0.95));
+    resize(size().boundedTo(Toolkit::availableGeometry(*this).size() * 0.95));
 }
 
 void CashRegisterWindow::fillChoices()

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "cashregisterwindow.h"
 #include "commandline.h"
-#include "common/display.h"
-#include "common/qtcompat.h"
 #include "gallery.h"
 #include "journal.h"
 #include "testing/librarypaycard.h"
 #include "testing/simulateddriver.h"
+#include "toolkit/platforms.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -74,7 +73,7 @@ bool installTranslator(const QString &file, const QString &directory)
 bool speak(const QString &language)
 {
     QLocale::setDefault(QLocale(language));
-    installTranslator("qt_" + language, QtCompat::translationsDirectory());
+    installTranslator("qt_" + language, Toolkit::translationsDirectory());
     return language == "ru" || installTranslator("paycard_gui_" + language, PAYCARD_TRANSLATIONS);
 }
 
@@ -124,7 +123,7 @@ int run(const CommandLine &line)
 
 int main(int argc, char **argv)
 {
-    const bool hasPlatform = isGiven(argc, argv, {"-platform", "--platform"}) || hasDisplay();
+    const bool hasPlatform = isGiven(argc, argv, {"-platform", "--platform"}) || Toolkit::hasDisplay();
     const bool needsNoScreen = isGiven(argc, argv, {"--gallery", "--help", "-h", "--version"});
     // Where there is no screen the arguments are read all the same.
     if (!hasPlatform || (needsNoScreen && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))) {

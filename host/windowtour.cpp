@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "windowtour.h"
 
-#include "common/qtcompat.h"
 #include "testing/cashier.h"
 #include "testing/librarypaycard.h"
 #include "testing/simulateddriver.h"
+#include "toolkit/windows.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -157,7 +157,7 @@ bool isLaidOut(const QWidget &window)
     const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(window.width()) : 0;
     const QSize frame = window.frameGeometry().size() - window.size();
     const QSize needed = layout->totalMinimumSize().expandedTo(QSize(0, height));
-    const QSize size = needed.boundedTo(QtCompat::availableGeometry(window).size() - frame);
+    const QSize size = needed.boundedTo(Toolkit::availableGeometry(window).size() - frame);
     return size.boundedTo(window.size() + QSize(1, 1)) == size;
 }
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "paycard_gui.h"
 
-#include "commissionadditiondialog.h"
 #include "common/nohelpbuttondialogs.h"
 #include "common/qnoxpaycard.h"
 #include "common/qt_utils.h"
-#include "common/qtcompat.h"
-#include "common/scopeddialog.h"
-#include "paymentconfirmation.h"
-#include "paysystemdialog.h"
-#include "selectoperatordialog.h"
+#include "dialogs/commissionadditiondialog.h"
+#include "dialogs/paymentconfirmation.h"
+#include "dialogs/paysystemdialog.h"
+#include "dialogs/selectoperatordialog.h"
+#include "toolkit/platforms.h"
+#include "window/scopeddialog.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -24,7 +24,7 @@ const int NotPerformed = -1;
 bool canShowWidgets()
 {
     const QCoreApplication *application = app();
-    return application && QtCompat::showsWidgets() && application->thread() == QThread::currentThread();
+    return application && Toolkit::showsWidgets() && application->thread() == QThread::currentThread();
 }
 
 /// The host's widget, which the host may delete at any time.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "testing/cashier.h"
 
-#include "common/qtcompat.h"
+#include "toolkit/windows.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -193,7 +193,7 @@ ModalScript::Step Cashier::read(const QString &widget, QString *text)
 ModalScript::Step Cashier::photograph(const QString &file)
 {
     return [=](QWidget *window) {
-        if (!QtCompat::picture(*window).save(file)) {
+        if (!Toolkit::picture(*window).save(file)) {
             throw ModalScript::Impossible{QString::fromLatin1("%1 cannot be written").arg(file)};
         }
     };

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "testing/checkedpaycard.h"
 
-#include "common/drivertext.h"
 #include "testing/contractrules.h"
+#include "text/drivertext.h"
 
 #include <QElapsedTimer>
 

@@ -4,7 +4,7 @@
 
 #include "testing/contractrules.h"
 
-#include "common/drivertext.h"
+#include "text/drivertext.h"
 
 #include <algorithm>
 

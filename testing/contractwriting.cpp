@@ -5,7 +5,7 @@
 #include "testing/contractrules.h"
 #include "testing/settingsdocument.h"
 
-#include "common/drivertext.h"
+#include "text/drivertext.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/nohelpbuttondialogs.h"
-#include "common/qtcompat.h"
 #include "testing/cashier.h"
 #include "testing/librarypaycard.h"
 #include "testing/simulateddriver.h"
+#include "toolkit/windows.h"
 #include "windowtour.h"
 
 #include <QAccessible>
@@ -144,7 +144,7 @@ QStringList problemsOf(QWidget *widget)
         problems += "no accessible name";
     }
     const int pixels = widget->property("pixmap").value<QPixmap>().width();
-    if (widget->objectName() == "label_pict" && pixels < widget->width() * QtCompat::pixelRatio(*widget)) {
+    if (widget->objectName() == "label_pict" && pixels < widget->width() * Toolkit::pixelRatio(*widget)) {
         problems += "soft picture";
     }
     if (isOneOf<QPushButton, QToolButton, QComboBox>(widget) && widget->height() < 32) {
@@ -265,7 +265,7 @@ QStringList windowProblems(const QWidget *window)
         }
     }
     // A scale factor may round a pixel up.
-    const QSize screen = QtCompat::availableGeometry(*window).size() + QSize(1, 1);
+    const QSize screen = Toolkit::availableGeometry(*window).size() + QSize(1, 1);
     const QSize frame = window->frameGeometry().size();
     if (frame.boundedTo(screen) != frame) {
         problems += QString("too large: %1 x %2").arg(frame.width()).arg(frame.height());
@@ -346,7 +346,7 @@ void LookTest::toolkitDialogs()
     QApplication::setFont(font);
     QSize lacks(0, 0);
     const auto compareToScreen = [&](QWidget *window) {
-        lacks = lacks.expandedTo(window->frameGeometry().size() - QtCompat::availableGeometry(*window).size());
+        lacks = lacks.expandedTo(window->frameGeometry().size() - Toolkit::availableGeometry(*window).size());
     };
     ModalScript files({compareToScreen, Cashier::close()});
     files.run([] { return NoHelpButtonFileDialog::getSaveFileName(nullptr, "Файл", "/tmp").size() > 0; });

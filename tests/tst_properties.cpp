@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "common/qtcompat.h"
+#include "toolkit/texts.h"
+#include "toolkit/windows.h"
 
 #include "register.h"
 
@@ -600,7 +601,7 @@ void PropertiesTest::unreadable()
 void PropertiesTest::longTexts()
 {
     const auto fits = [](QWidget *window) {
-        const int screen = QtCompat::availableGeometry(*window).width(); // Qt 4.8 uses the whole of a small one
+        const int screen = Toolkit::availableGeometry(*window).width(); // Qt 4.8 uses the whole of a small one
         QVERIFY2(window->width() <= screen && window->height() <= 600, window->metaObject()->className());
         const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
         for (const QAbstractButton *button : buttons) {
@@ -624,7 +625,7 @@ void PropertiesTest::longTexts()
                 const QString whole = QString("[7] %1 (%1)").arg(text);
                 const bool read = length == 300 && unit != "строка\n";
                 QCOMPARE(label->text() == whole && label->toolTip().isEmpty(), read && whole.size() <= 500);
-                QVERIFY(length != 3000 || label->toolTip().contains(QtCompat::escaped(text.left(2000))));
+                QVERIFY(length != 3000 || label->toolTip().contains(Toolkit::escaped(text.left(2000))));
                 fits(window);
                 shop.driver.clearFailures();
             };

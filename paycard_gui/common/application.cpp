@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "common/display.h"
 #include "common/qt_utils.h"
-#include "common/qtcompat.h"
+
+#include "common/qt_utils.h"
+#include "toolkit/platforms.h"
 
 #include <QApplication>
 #include <QFile>
 
 #include <clocale>
 #include <cstdlib>
-#include <cstring>
 #include <dlfcn.h>
-#include <link.h>
 #include <mutex>
 #include <string>
 
@@ -33,23 +32,9 @@ const struct ApplicationObserver
     ~ApplicationObserver() { qRemovePostRoutine(noteEnd); }
 } observer;
 
-/// Non-zero when the loaded object is the core library of another major release of the toolkit: the host's own,
-/// which this one could not share the process with.
-int isOtherToolkit(dl_phdr_info *object, std::size_t /*size*/, void * /*unused*/)
-{
-    const char *const names[] = {"libQtCore.so.4", "libQt5Core.so.5", "libQt6Core.so.6"};
-    const int own = (QT_VERSION >> 16) - 4;
-    for (int i = 0; i < 3; ++i) {
-        if (i != own && object->dlpi_name && std::strstr(object->dlpi_name, names[i])) {
-            return 1;
-        }
-    }
-    return 0;
-}
-
 bool canCreateApplication()
 {
-    return !ending && dl_iterate_phdr(isOtherToolkit, nullptr) == 0 && hasDisplay();
+    return !ending && !Toolkit::isOtherToolkitLoaded() && Toolkit::hasDisplay();
 }
 
 /// Keeps this library loaded to the end of the process.

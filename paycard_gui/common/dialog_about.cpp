@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/dialog_about.h"
 
-#include "common/qtcompat.h"
-#include "common/showntext.h"
+#include "toolkit/windows.h"
 #include "ui_dialog_about.h"
+#include "window/showntext.h"
 
 #include <QHeaderView>
 #include <QItemDelegate>
@@ -125,7 +125,7 @@ void DialogAbout::setPictures()
     const QString file = QString::fromLatin1(":/images/orma_logo_small.bmp");
     const QPixmap logo(file);
     if (!logo.isNull()) {
-        ui->label_pict->setPixmap(QtCompat::sharpened(logo, file, *this));
+        ui->label_pict->setPixmap(Toolkit::sharpened(logo, file, *this));
         ui->label_pict->setMaximumSize(logo.size());
     }
 }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/nohelpbuttondialogs.h"
 
-#include "common/inputs.h"
-#include "common/onscreenkeyboard.h"
-#include "common/scopeddialog.h"
-#include "common/showntext.h"
-#include "common/windowfit.h"
+#include "toolkit/windows.h"
+#include "window/inputs.h"
+#include "window/onscreenkeyboard.h"
+#include "window/scopeddialog.h"
+#include "window/showntext.h"
+#include "window/windowfit.h"
 
 #include <QAbstractSpinBox>
 #include <QChildEvent>
@@ -78,7 +79,7 @@ void prepareToUse(QWidget &window)
 /// Above other windows of the host and above an on-screen keyboard; to be done when the window has its size.
 void showOnTop(QWidget &window)
 {
-    QtCompat::keepAboveActiveWindow(window);
+    Toolkit::keepAboveActiveWindow(window);
     keepAboveKeyboard(window);
 }
 
@@ -337,7 +338,7 @@ QString NoHelpButtonFileDialog::getExistingDirectory(QWidget *parent, const QStr
     ScopedDialog<QFileDialog> dialog(parent, caption, directory);
     dialog->setOptions(options);
     if (options & QFileDialog::ShowDirsOnly) {
-        QtCompat::chooseDirectoriesOnly(*dialog);
+        Toolkit::chooseDirectoriesOnly(*dialog);
     } else {
         dialog->setFileMode(QFileDialog::Directory);
     }

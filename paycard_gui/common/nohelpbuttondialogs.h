@@ -3,7 +3,6 @@
 #define NOHELPBUTTONDIALOGS_H
 
 #include "common/paycard_export.h"
-#include "common/qtcompat.h"
 
 #include <QDialog>
 #include <QFileDialog>
@@ -12,6 +11,13 @@
 #include <QPointer>
 
 #include <exception>
+
+/// QDialog::exec() is virtual from Qt 5 on.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#define PAYCARD_OVERRIDES_EXEC override
+#else
+#define PAYCARD_OVERRIDES_EXEC
+#endif
 
 /// Base of every dialog: no context-help button, failures in slots that reach the caller of exec(), and never
 /// the last window of an application, which then would quit.
@@ -60,6 +66,16 @@ class PAYCARD_EXPORT NoHelpButtonMessageBox
 public:
     NoHelpButtonMessageBox() = delete;
 
+    /// The buttons that the toolkit's own question has by default.
+    static QMessageBox::StandardButtons questionButtons()
+    {
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+        return QMessageBox::Yes | QMessageBox::No;
+#else
+        return QMessageBox::Ok;
+#endif
+    }
+
     /// For something to know.
     static QMessageBox::StandardButton information(QWidget *parent, const QString &title, const QString &text,
                                                    QMessageBox::StandardButtons buttons = QMessageBox::Ok,
@@ -70,7 +86,7 @@ public:
                                                QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
     /// For something to decide.
     static QMessageBox::StandardButton question(QWidget *parent, const QString &title, const QString &text,
-                                                QMessageBox::StandardButtons buttons = QtCompat::questionButtons(),
+                                                QMessageBox::StandardButtons buttons = questionButtons(),
                                                 QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
     /// With an OK button only.
     static QMessageBox::StandardButton critical(QWidget *parent, const QString &title, const QString &text);

@@ -2,20 +2,16 @@
 #ifndef QNOXPAYCARD_H
 #define QNOXPAYCARD_H
 
-#include "common/drivertext.h"
 #include "common/ipaycard.h"
 #include "common/paycard_export.h"
-#include "common/qtcompat.h"
 
 #include <QByteArray>
 #include <QFutureInterface>
 #include <QObject>
 #include <QString>
 
-#include <cwchar>
 #include <exception>
 #include <string>
-#include <vector>
 
 /// A failure with a text for people.
 class PAYCARD_EXPORT Exception : public std::exception
@@ -48,6 +44,32 @@ public:
     DeviceNotFoundException &operator=(const DeviceNotFoundException &) = default;
     ~DeviceNotFoundException() override;
 };
+
+/// How QNoxInterface fetches the texts of a driver, whatever the interface.
+namespace QNoxText {
+
+/// An operation that writes a text to a buffer of this size, as a function and what it is to be called with.
+struct Operation
+{
+    int (*call)(const void *get, wchar_t *buffer, int size); ///< gives what the driver answers
+    const void *get;                                         ///< what is called
+};
+
+/// The text up to its closing zero, or a null text. `size` is that of the first buffer.
+PAYCARD_EXPORT QString read(int size, const Operation &operation);
+/// The same in the driver's own characters. `result` gets the driver's last answer, and `isWhole` is false when the
+/// text did not fit a second time and when its length is incredible.
+PAYCARD_EXPORT std::wstring readWhole(int size, const Operation &operation, int &result, bool &isWhole);
+
+template <class Get>
+Operation operation(const Get &get)
+{
+    return {
+        [](const void *getter, wchar_t *buffer, int size) { return (*static_cast<const Get *>(getter))(buffer, size); },
+        &get};
+}
+
+} // namespace QNoxText
 
 /// Reads values from a driver object with the interface T, which it does not own, and turns failures of the
 /// driver into exceptions. Without a driver every call that needs one throws DeviceNotFoundException.
@@ -98,9 +120,7 @@ public:
 
 private:
     template <class Get>
-    QString readText(Get get) const;
-    template <class Get>
-    std::wstring readWhole(Get get) const;
+    std::wstring readWhole(const Get &get) const;
 
     T *driver;
     // Never used here; part of the layout that the family's modules share.
@@ -168,14 +188,16 @@ template <class T>
 QString QNoxInterface<T>::getBuff(TextGetter getter) const
 {
     T *object = nox();
-    return readText([=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); });
+    const auto get = [=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); };
+    return QNoxText::read(defaultBufferSize(), QNoxText::operation(get));
 }
 
 template <class T>
 QString QNoxInterface<T>::getBuff(NamedTextGetter getter, const wchar_t *name) const
 {
     T *object = nox();
-    return readText([=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); });
+    const auto get = [=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); };
+    return QNoxText::read(defaultBufferSize(), QNoxText::operation(get));
 }
 
 template <class T>
@@ -194,29 +216,16 @@ std::wstring QNoxInterface<T>::getWhole(NamedTextGetter getter, const wchar_t *n
 
 template <class T>
 template <class Get>
-QString QNoxInterface<T>::readText(Get get) const
+std::wstring QNoxInterface<T>::readWhole(const Get &get) const
 {
-    std::vector<wchar_t> buffer(static_cast<std::size_t>(defaultBufferSize()));
-    const DriverText::Lengths lengths = DriverText::read(buffer, 1, get);
-    if (!DriverText::isCredible(lengths.first) || lengths.first < 1) {
-        return QString();
-    }
-    return QtCompat::fromWideText(buffer.data(), wcsnlen(buffer.data(), buffer.size()));
-}
-
-template <class T>
-template <class Get>
-std::wstring QNoxInterface<T>::readWhole(Get get) const
-{
-    std::vector<wchar_t> buffer(static_cast<std::size_t>(defaultBufferSize()));
-    const int initialSize = defaultBufferSize();
-    const DriverText::Lengths lengths = DriverText::read(buffer, 1, get);
-    raiseError(lengths.last);
-    const bool isGone = lengths.first > initialSize && lengths.last < 1;
-    if (isGone || lengths.last > static_cast<int>(buffer.size())) {
+    int result = 0;
+    bool isWhole = false;
+    const std::wstring text = QNoxText::readWhole(defaultBufferSize(), QNoxText::operation(get), result, isWhole);
+    raiseError(result);
+    if (!isWhole) {
         throw Exception(QObject::tr("Драйвер не дал текст целиком"));
     }
-    return std::wstring(buffer.data(), lengths.last < 1 ? 0 : wcsnlen(buffer.data(), buffer.size()));
+    return text;
 }
 
 template <class T>

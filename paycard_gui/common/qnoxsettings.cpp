@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/qnoxsettings.h"
 
-#include "common/settingsreader.h"
-#include "common/settingstext.h"
+#include "text/settingsreader.h"
+#include "text/settingstext.h"
 
 QNoxSettings::QNoxSettings() : version(0) {}
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/qt_utils.h"
 
-#include "common/drivertext.h"
 #include "common/ipaycard.h"
-#include "common/qtcompat.h"
+#include "text/drivertext.h"
+#include "toolkit/platforms.h"
+#include "toolkit/texts.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -21,7 +22,7 @@ namespace {
 /// Sets the text codecs when the library is loaded, before anything of it is called.
 const struct LoadTimeSetup
 {
-    LoadTimeSetup() { QtCompat::useUtf8Texts(); }
+    LoadTimeSetup() { Toolkit::useUtf8Texts(); }
 } loadTimeSetup;
 
 struct MappingEntry
@@ -38,7 +39,7 @@ struct MappingEntry
 
 QStringList entriesOf(const QString &mapping)
 {
-    return QtCompat::splitSkippingEmpty(mapping, QLatin1Char(';'));
+    return Toolkit::splitSkippingEmpty(mapping, QLatin1Char(';'));
 }
 
 /// The first entry for which `matches` holds, empty pieces between semicolons included.
@@ -115,7 +116,7 @@ int cmbData(QComboBox *combo, int role)
     }
     // A variant cuts the number of a text that is too large, where the text itself gives 0.
     const QVariant data = combo->itemData(combo->currentIndex(), role);
-    return QtCompat::isText(data) ? data.toString().toInt() : data.toInt();
+    return Toolkit::isText(data) ? data.toString().toInt() : data.toInt();
 }
 
 int QComboCanSelect(QComboBox *combo, const QString &text)
@@ -214,22 +215,24 @@ int WStrToQListWidget(QListWidget *list, const QString &devices)
     const QStringList pieces = entriesOf(devices);
     for (const QString &piece : pieces) {
         const MappingEntry entry(piece);
-        const QStringList keys = QtCompat::splitSkippingEmpty(entry.key, QLatin1Char('$'));
-        QListWidgetItem *item = new QListWidgetItem(entry.value, list);
+        const QStringList keys = Toolkit::splitSkippingEmpty(entry.key, QLatin1Char('$'));
+        QListWidgetItem *item = new QListWidgetItem(entry.value);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Checked);
         item->setData(Qt::UserRole, keys.value(0));
         if (keys.size() == 2 && keys.first() == QLatin1String("TTY")) {
             item->setData(Qt::UserRole + 1, keys.last());
         }
+        list->addItem(item);
     }
     return 0;
 }
 
 int QStringToWChar(const QString &text, std::vector<wchar_t> &buffer)
 {
-    const std::wstring wide = QtCompat::wideText(text);
-    buffer.assign(wide.c_str(), wide.c_str() + wide.size() + 1);
+    const std::wstring wide = Toolkit::wideText(text);
+    buffer.assign(static_cast<std::size_t>(text.size()) + 1, L'\0');
+    std::copy(wide.begin(), wide.end(), buffer.begin());
     return static_cast<int>(wide.size());
 }
 
@@ -342,7 +345,7 @@ void installTranslator(QCoreApplication & /*application*/)
     if (!loaded) {
         // A translator whose loading fails loses what it had, so one that is loaded is left alone.
         const QString file = QString::fromLatin1("qt_") + QLocale::system().name();
-        loaded = translator.load(file, QtCompat::translationsDirectory()) ||
+        loaded = translator.load(file, Toolkit::translationsDirectory()) ||
                  translator.load(file, appDir() + QString::fromLatin1("translations/"));
     }
     if (loaded) {

@@ -72,7 +72,8 @@ PAYCARD_EXPORT int WStrToQListWidget(QListWidget *list, const QString &devices);
 /// \name Texts and mapping lists
 ///@{
 
-/// Replaces the buffer's contents by the text and a closing zero; returns the characters before that zero.
+/// Replaces the buffer's contents by the text, in wide characters, and zeros: it gets one element more than the text
+/// has UTF-16 code units. Returns the number of wide characters.
 PAYCARD_EXPORT int QStringToWChar(const QString &text, std::vector<wchar_t> &buffer);
 /// Adds the list's entries to the map, where a later entry of the same key replaces the earlier one.
 PAYCARD_EXPORT void parseMapping(const QString &mapping, QMap<QString, QString> &map);
@@ -92,7 +93,7 @@ PAYCARD_EXPORT int GetKeyFromMappingValue(const QString &mapping, const QString 
 /// \name A device's settings, asked of its driver
 ///@{
 
-/// Current value of the named setting, cut to what the driver said its length was at first.
+/// Current value of the named setting: as many characters as the driver's last answer says.
 PAYCARD_EXPORT QString readCurrentSetting(NOX::IVELBase *driver, const wchar_t *name);
 /// Caption of the current value in the setting's list of choices; a null text when it is not listed.
 PAYCARD_EXPORT QString readDescriptionOfCurrentSetting(NOX::IVELBase *driver, const wchar_t *name);

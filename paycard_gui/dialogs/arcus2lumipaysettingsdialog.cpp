@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "dialogs/arcus2lumipaysettingsdialog.h"
+
+#include "ui_arcus2lumipaysettingsdialog.h"
+
+Arcus2LumiPaySettingsDialog::Arcus2LumiPaySettingsDialog(QNoxSettings &document, QWidget *parent)
+    : LumiPaySettingsDialog(document, parent), ui(new Ui_Arcus2LumiPaySettingsDialog)
+{
+    ui->setupUi(this);
+    fields = {
+        modemMode(ui->cmbModemMode),
+    };
+    loadSettings();
+    adjustSize();
+}
+
+Arcus2LumiPaySettingsDialog::~Arcus2LumiPaySettingsDialog() = default;
+
+void Arcus2LumiPaySettingsDialog::on_pbtnOk_clicked()
+{
+    saveAndAccept();
+}
+
+void Arcus2LumiPaySettingsDialog::on_pbtnCancel_clicked()
+{
+    reject();
+}

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "dialogs/arcus2ormasettingsdialog.h"
+
+#include "ui_arcus2ormasettingsdialog.h"
+
+Arcus2OrmaSettingsDialog::Arcus2OrmaSettingsDialog(QNoxSettings &document, QWidget *parent)
+    : OrmaSettingsDialog(document, parent), ui(new Ui_Arcus2OrmaSettingsDialog)
+{
+    ui->setupUi(this);
+    fillForm(*ui);
+    loadSettings();
+    adjustSize();
+}
+
+Arcus2OrmaSettingsDialog::~Arcus2OrmaSettingsDialog() = default;
+
+void Arcus2OrmaSettingsDialog::on_pbtnOk_clicked()
+{
+    saveAndAccept();
+}
+
+void Arcus2OrmaSettingsDialog::on_pbtnCancel_clicked()
+{
+    reject();
+}
+
+void Arcus2OrmaSettingsDialog::on_cmbPort_currentIndexChanged(int /*index*/)
+{
+    showPage();
+}

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "dialogs/arcus2settingsdialog.h"
+
+#include "ui_arcus2settingsdialog.h"
+
+namespace {
+
+const QString OpcodeCloseDayKey = QString::fromWCharArray(L"OpcodeCloseDay");
+const QString OpcodePrintJournalKey = QString::fromWCharArray(L"OpcodePrintJournal");
+
+} // namespace
+
+Arcus2SettingsDialog::Arcus2SettingsDialog(QNoxSettings &document, QWidget *parent)
+    : SettingsDialog(document, parent), ui(new Ui_Arcus2SettingsDialog)
+{
+    ui->setupUi(this);
+    useErrorLine(ui->lbError);
+    connect(ui->spinOpcodeCloseDay, SIGNAL(valueChanged(int)), SLOT(checkState()));
+    connect(ui->spinOpcodePrintJournal, SIGNAL(valueChanged(int)), SLOT(checkState()));
+    fields = {
+        {OpcodeCloseDayKey, ui->spinOpcodeCloseDay},
+        {OpcodePrintJournalKey, ui->spinOpcodePrintJournal},
+    };
+    // While both values stay at their initial 1 nothing is checked: the form's own text is seen in the error
+    // line until a value changes. That is meant.
+    loadSettings();
+    adjustSize();
+}
+
+Arcus2SettingsDialog::~Arcus2SettingsDialog() = default;
+
+/// Only reports: equal codes can be saved.
+void Arcus2SettingsDialog::checkState()
+{
+    if (ui->spinOpcodeCloseDay->value() == ui->spinOpcodePrintJournal->value()) {
+        setError(tr("Коды операций не могут совпадать"));
+    } else {
+        resetError();
+    }
+}
+
+void Arcus2SettingsDialog::on_pbtnOk_clicked()
+{
+    saveAndAccept();
+}
+
+void Arcus2SettingsDialog::on_pbtnCancel_clicked()
+{
+    reject();
+}

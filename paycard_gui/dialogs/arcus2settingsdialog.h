@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef ARCUS2SETTINGSDIALOG_H
+#define ARCUS2SETTINGSDIALOG_H
+
+#include "forms/settingsdialog.h"
+
+#include <memory>
+
+class Ui_Arcus2SettingsDialog;
+
+/// The operation codes of the ARCUS2 protocol.
+class Arcus2SettingsDialog : public SettingsDialog
+{
+    Q_OBJECT
+
+public:
+    Arcus2SettingsDialog(QNoxSettings &settings, QWidget *parent);
+    ~Arcus2SettingsDialog() override;
+
+private slots:
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
+    void checkState();
+
+private:
+    std::unique_ptr<Ui_Arcus2SettingsDialog> ui;
+};
+
+#endif

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef CYBERPLATSETTINGSDIALOG_H
+#define CYBERPLATSETTINGSDIALOG_H
+
+#include "forms/settingsdialog.h"
+
+#include <memory>
+
+class Ui_CyberPlatSettingsDialog;
+
+/// How the driver reaches the CyberPlat server, and how the register identifies itself to it.
+class CyberPlatSettingsDialog : public SettingsDialog
+{
+    Q_OBJECT
+
+public:
+    CyberPlatSettingsDialog(QNoxSettings &settings, QWidget *parent);
+    ~CyberPlatSettingsDialog() override;
+
+private slots:
+    void checkState();
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
+    void on_checkUseProxy_toggled(bool checked);
+
+private:
+    std::unique_ptr<Ui_CyberPlatSettingsDialog> ui;
+};
+
+#endif

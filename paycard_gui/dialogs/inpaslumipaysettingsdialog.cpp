@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "dialogs/inpaslumipaysettingsdialog.h"
+
+#include "ui_inpaslumipaysettingsdialog.h"
+
+namespace {
+
+const QString TerminalIDKey = QString::fromWCharArray(L"TerminalID");
+
+} // namespace
+
+InpasLumiPaySettingsDialog::InpasLumiPaySettingsDialog(QNoxSettings &document, QWidget *parent)
+    : LumiPaySettingsDialog(document, parent), ui(new Ui_InpasLumiPaySettingsDialog)
+{
+    ui->setupUi(this);
+    fields = {
+        modemMode(ui->cmbModemMode),
+        {TerminalIDKey, ui->leTerminalID},
+    };
+    loadSettings();
+    adjustSize();
+}
+
+InpasLumiPaySettingsDialog::~InpasLumiPaySettingsDialog() = default;
+
+void InpasLumiPaySettingsDialog::on_pbtnOk_clicked()
+{
+    saveAndAccept();
+}
+
+void InpasLumiPaySettingsDialog::on_pbtnCancel_clicked()
+{
+    reject();
+}

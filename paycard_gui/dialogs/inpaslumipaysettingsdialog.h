@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef INPASLUMIPAYSETTINGSDIALOG_H
+#define INPASLUMIPAYSETTINGSDIALOG_H
+
+#include "dialogs/lumipaysettingsdialog.h"
+
+#include <memory>
+
+class Ui_InpasLumiPaySettingsDialog;
+
+/// The LumiPay settings of INPAS SmartSale terminals.
+class InpasLumiPaySettingsDialog : public LumiPaySettingsDialog
+{
+    Q_OBJECT
+
+public:
+    InpasLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
+    ~InpasLumiPaySettingsDialog() override;
+
+private slots:
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
+
+private:
+    std::unique_ptr<Ui_InpasLumiPaySettingsDialog> ui;
+};
+
+#endif

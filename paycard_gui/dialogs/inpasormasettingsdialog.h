@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef INPASORMASETTINGSDIALOG_H
+#define INPASORMASETTINGSDIALOG_H
+
+#include "dialogs/ormasettingsdialog.h"
+
+#include <memory>
+
+class Ui_InpasOrmaSettingsDialog;
+
+/// The connection of INPAS SmartSale terminals.
+class InpasOrmaSettingsDialog : public OrmaSettingsDialog
+{
+    Q_OBJECT
+
+public:
+    InpasOrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
+    ~InpasOrmaSettingsDialog() override;
+
+private slots:
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
+    void on_cmbPort_currentIndexChanged(int index);
+
+private:
+    std::unique_ptr<Ui_InpasOrmaSettingsDialog> ui;
+};
+
+#endif

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef ORMASETTINGSDIALOG_H
+#define ORMASETTINGSDIALOG_H
+
+#include "forms/settingsdialog.h"
+
+class QStackedWidget;
+
+/// What the dialogs for a terminal's connection share: a port, and a page of settings for each kind of port.
+/// Only the settings of the chosen kind are saved; those of the other kinds stay in the document as they are.
+class OrmaSettingsDialog : public SettingsDialog
+{
+    Q_OBJECT
+
+public:
+    using SettingsDialog::SettingsDialog;
+    ~OrmaSettingsDialog() override;
+
+    void loadSettings() override;
+    void saveSettings() override;
+
+protected:
+    struct PortKind
+    {
+        /// Key among the ports; empty for the serial ports, which have their numbers.
+        QString key;
+        /// What the kind adds to the list of ports.
+        QString choices;
+        QWidget *page;
+        SettingFields fields;
+    };
+    static PortKind network(QWidget *page, QLineEdit *address, QSpinBox *port);
+
+    /// Takes the widgets that every form of the family has. `kinds` are those that only this form has; they come
+    /// first in the list of ports.
+    template <class Form>
+    void fillForm(const Form &form, std::vector<PortKind> kinds = {})
+    {
+        kinds.push_back(usb(form.pageUsbSettings, form.leUsbVid, form.leUsbPid));
+        kinds.push_back(tty(form.pageTtySettings, form.leTtyFileName, form.cmbTtyBaudrate));
+        kinds.push_back(serial(form.pageSerialPortSettings, form.cmbSerialBaudrate));
+        fillForm(form.cmbPort, form.stackExtSettings, kinds);
+    }
+    void showPage();
+
+private:
+    static PortKind usb(QWidget *page, QLineEdit *vid, QLineEdit *pid);
+    static PortKind tty(QWidget *page, QLineEdit *name, QComboBox *baudrate);
+    static PortKind serial(QWidget *page, QComboBox *baudrate);
+    /// Offers the kinds of port in this order; the last one is that of every port which is none of the others.
+    void fillForm(QComboBox *ports, QStackedWidget *pages, const std::vector<PortKind> &kinds);
+    const PortKind &currentKind() const;
+
+    QComboBox *portBox = nullptr;
+    QStackedWidget *pageStack = nullptr;
+    std::vector<PortKind> portKinds;
+};
+
+#endif

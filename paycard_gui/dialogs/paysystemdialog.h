@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef PAYSYSTEMDIALOG_H
+#define PAYSYSTEMDIALOG_H
+
+#include "common/nohelpbuttondialogs.h"
+#include "common/qnoxpaycard.h"
+#include "common/qnoxsettings.h"
+#include "forms/settingfields.h"
+
+#include <memory>
+#include <string>
+
+class Ui_PaySystemDialog;
+
+/// The properties of the payment system. Reads the driver's settings document, edits it together with its
+/// sub-dialogs, and writes it back: edited on OK, as it was read on Cancel. A document that cannot be read is
+/// announced when the window opens; Cancel gives it back as it is.
+class PaySystemDialog : public NoHelpButtonDialog
+{
+    Q_OBJECT
+
+public:
+    /// Throws DeviceNotFoundException without a driver and Exception when the driver fails. The driver may delete
+    /// the parent meanwhile: one that the host gave belongs to the dialog once it is whole.
+    PaySystemDialog(NOX::PayCard::IPayCard *driver, QWidget *parent);
+    ~PaySystemDialog() override;
+
+    /// Also throws when the driver refuses to be told that the properties are closed.
+    int exec() PAYCARD_OVERRIDES_EXEC;
+
+    void setError(const QString &text);
+    void resetError();
+    void loadSettings();
+    void saveSettings();
+
+public slots:
+    /// Cancels, like the button: the Escape key comes here.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void on_pbtnSlip_clicked();
+    void on_pbtnSettingsButton_clicked();
+    void on_pbtnOperators_clicked();
+    void on_pbtnPathACDialog_clicked();
+    void on_cmbProtocol_currentIndexChanged(int index);
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
+    void on_pbtnAbout_clicked();
+    void checkState();
+
+private:
+    /// Tells the driver that the properties are shown, and exactly once that they no longer are.
+    class PropertiesShown
+    {
+    public:
+        explicit PropertiesShown(const QNoxPaycard &driver);
+        PropertiesShown(const PropertiesShown &) = delete;
+        PropertiesShown &operator=(const PropertiesShown &) = delete;
+        /// Says so if end() has not; a failure is lost here, where it must not be thrown.
+        ~PropertiesShown();
+        void end();
+
+    private:
+        const QNoxPaycard &driver;
+        bool shown = true;
+    };
+
+    struct Protocol;
+    static const Protocol &protocol(int number);
+
+    template <class Dialog>
+    void edit();
+    template <class Action>
+    void reportingFailure(Action action);
+    std::wstring textAsLoaded() const;
+    bool writeToDriver(std::wstring xml);
+
+    std::unique_ptr<Ui_PaySystemDialog> ui;
+    QNoxPaycard driver;
+    /// The driver's document.
+    std::wstring loadedXml;
+    QNoxSettings settings;
+    SettingFields fields;
+    /// Stands in the error line while there is no error. Empty when the document can be read.
+    QString notice;
+    PropertiesShown propertiesShown;
+};
+
+#endif

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "dialogs/sberbanklumipaysettingsdialog.h"
+
+#include "ui_sberbanklumipaysettingsdialog.h"
+
+SberbankLumiPaySettingsDialog::SberbankLumiPaySettingsDialog(QNoxSettings &document, QWidget *parent)
+    : LumiPaySettingsDialog(document, parent), ui(new Ui_SberbankLumiPaySettingsDialog)
+{
+    // The window has the ARCUS2 wording for its title on purpose.
+    ui->setupUi(this);
+    fields = {
+        modemMode(ui->cmbModemMode),
+    };
+    loadSettings();
+    adjustSize();
+}
+
+SberbankLumiPaySettingsDialog::~SberbankLumiPaySettingsDialog() = default;
+
+void SberbankLumiPaySettingsDialog::on_pbtnOk_clicked()
+{
+    saveAndAccept();
+}
+
+void SberbankLumiPaySettingsDialog::on_pbtnCancel_clicked()
+{
+    reject();
+}

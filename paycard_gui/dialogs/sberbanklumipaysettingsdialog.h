@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef SBERBANKLUMIPAYSETTINGSDIALOG_H
+#define SBERBANKLUMIPAYSETTINGSDIALOG_H
+
+#include "dialogs/lumipaysettingsdialog.h"
+
+#include <memory>
+
+class Ui_SberbankLumiPaySettingsDialog;
+
+/// The LumiPay settings of Sberbank terminals.
+class SberbankLumiPaySettingsDialog : public LumiPaySettingsDialog
+{
+    Q_OBJECT
+
+public:
+    SberbankLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
+    ~SberbankLumiPaySettingsDialog() override;
+
+private slots:
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
+
+private:
+    std::unique_ptr<Ui_SberbankLumiPaySettingsDialog> ui;
+};
+
+#endif

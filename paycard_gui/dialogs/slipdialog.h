@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef SLIPDIALOG_H
+#define SLIPDIALOG_H
+
+#include "forms/settingsdialog.h"
+
+#include <memory>
+
+class Ui_SlipDialog;
+
+/// The texts at the head and the foot of the card slip, kept in a document of their own under one key.
+class SlipDialog : public SettingsDialog
+{
+    Q_OBJECT
+
+public:
+    SlipDialog(QNoxSettings &settings, QWidget *parent);
+    ~SlipDialog() override;
+
+    void loadSettings() override;
+    void saveSettings() override;
+
+private slots:
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
+
+private:
+    std::unique_ptr<Ui_SlipDialog> ui;
+};
+
+#endif

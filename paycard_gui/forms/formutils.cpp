@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "forms/formutils.h"
+
+#include "common/nohelpbuttondialogs.h"
+#include "toolkit/windows.h"
+#include "window/errorline.h"
+#include "window/onscreenkeyboard.h"
+#include "window/showntext.h"
+#include "window/windowfit.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMap>
+
+#include <algorithm>
+
+void showError(QLabel *line, const QString &text)
+{
+    const QString before = line->text();
+    ShownText::show(line, text);
+    keepReadable(*line);
+    keepAboveKeyboard(*line);
+    if (line->window()->isVisible()) {
+        growToContents(*line->window());
+        if (line->text() != before && !text.isEmpty()) {
+            Toolkit::announce(*line, line->text());
+        }
+    }
+}
+
+namespace {
+
+/// The column of its grid that the label is in; 0 in other layouts.
+int columnOf(QLabel *label)
+{
+    QGridLayout *grid = qobject_cast<QGridLayout *>(label->parentWidget()->layout());
+    const int index = grid ? grid->indexOf(label) : -1;
+    int row = 0;
+    int column = 0;
+    int span = 0;
+    if (index >= 0) {
+        grid->getItemPosition(index, &row, &column, &span, &span);
+    }
+    return column;
+}
+
+} // namespace
+
+void alignLabels(QWidget *form)
+{
+    const QList<QLabel *> labels = form->findChildren<QLabel *>();
+    QMap<int, int> widths;
+    for (QLabel *label : labels) {
+        int &width = widths[columnOf(label)];
+        width = std::max(width, label->buddy() ? label->sizeHint().width() : 0);
+    }
+    for (QLabel *label : labels) {
+        if (label->buddy()) {
+            label->setMinimumSize(widths.value(columnOf(label)),
+                                  std::max(label->sizeHint().height(), NoHelpButtonDialog::TouchHeight));
+        }
+        QLineEdit *edit = qobject_cast<QLineEdit *>(label->buddy());
+        if (edit && edit->inputMask().isEmpty()) {
+            edit->setMinimumWidth(edit->sizeHint().width());
+        }
+    }
+}

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "toolkit/platforms.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
+#include <QList>
+
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QPluginLoader>
+#endif
+
+#include <cstring>
+#include <dlfcn.h>
+#include <link.h>
+
+namespace {
+
+/// A library that the platform's own plugin needs, too, so that this one need not depend on it.
+class ClientLibrary
+{
+public:
+    explicit ClientLibrary(const char *name) : handle(dlopen(name, RTLD_NOW | RTLD_LOCAL)) {}
+    ClientLibrary(const ClientLibrary &) = delete;
+    ClientLibrary &operator=(const ClientLibrary &) = delete;
+    ~ClientLibrary()
+    {
+        if (handle) {
+            dlclose(handle);
+        }
+    }
+
+    /// Null when there is no such function.
+    template <class Function>
+    Function *function(const char *name) const
+    {
+        return handle ? reinterpret_cast<Function *>(dlsym(handle, name)) : nullptr;
+    }
+
+private:
+    void *handle;
+};
+
+bool canConnectToX()
+{
+    const ClientLibrary library("libxcb.so.1");
+    const auto connect = library.function<void *(const char *, int *)>("xcb_connect");
+    const auto hasError = library.function<int(void *)>("xcb_connection_has_error");
+    const auto disconnect = library.function<void(void *)>("xcb_disconnect");
+    if (!connect || !hasError || !disconnect) {
+        return false;
+    }
+    // Never null, and to be disconnected after an error, too.
+    void *connection = connect(nullptr, nullptr);
+    const bool connected = hasError(connection) == 0;
+    disconnect(connection);
+    return connected;
+}
+
+bool canConnectToWayland()
+{
+    const ClientLibrary library("libwayland-client.so.0");
+    const auto connect = library.function<void *(const char *)>("wl_display_connect");
+    const auto disconnect = library.function<void(void *)>("wl_display_disconnect");
+    void *connection = connect && disconnect ? connect(nullptr) : nullptr;
+    if (connection) {
+        disconnect(connection);
+    }
+    return connection != nullptr;
+}
+
+/// The platforms that an application object would try, each with its parameters behind a colon.
+QList<QByteArray> platformsToTry()
+{
+    QByteArray platforms = "xcb";
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        platforms = qgetenv("QT_QPA_PLATFORM");
+    } else if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland") {
+        platforms = "wayland;xcb";
+    }
+#endif
+    return platforms.split(';');
+}
+
+/// False when the toolkit has no plugin for this platform, or one that cannot be loaded.
+bool hasPlatform(const QString &platform)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    // There is no application object yet whose directory the toolkit would add.
+    const QString own = QFileInfo(QFile::symLinkTarget(QLatin1String("/proc/self/exe"))).path();
+    QStringList directories = {QFile::decodeName(qgetenv("QT_QPA_PLATFORM_PLUGIN_PATH")),
+                               own + QLatin1String("/platforms")};
+    const QStringList roots = QCoreApplication::libraryPaths() + QStringList(own + QLatin1String("/plugins"));
+    for (const QString &root : roots) {
+        directories += root + QLatin1String("/platforms");
+    }
+    for (const QString &directory : directories) {
+        const QFileInfoList files = directory.isEmpty() ? QFileInfoList() : QDir(directory).entryInfoList(QDir::Files);
+        for (const QFileInfo &file : files) {
+            QPluginLoader plugin(file.filePath());
+            const QJsonObject data = plugin.metaData().value(QLatin1String("MetaData")).toObject();
+            if (data.value(QLatin1String("Keys")).toArray().contains(platform) && plugin.load()) {
+                return true;
+            }
+        }
+    }
+    // A configuration beside the program may name other places.
+    return QFile::exists(own + QLatin1String("/qt.conf"));
+#else
+    Q_UNUSED(platform);
+    return true;
+#endif
+}
+
+/// Non-zero for the core library of another major release.
+int isOtherToolkit(dl_phdr_info *object, std::size_t /*size*/, void * /*unused*/)
+{
+    const char *const names[] = {"libQtCore.so.4", "libQt5Core.so.5", "libQt6Core.so.6"};
+    const int own = (QT_VERSION >> 16) - 4;
+    for (int i = 0; i < 3; ++i) {
+        if (i != own && object->dlpi_name && std::strstr(object->dlpi_name, names[i])) {
+            return 1;
+        }
+    }
+    return 0;
+}
+
+bool isUsable(const QByteArray &platform)
+{
+    if (!hasPlatform(QString::fromLatin1(platform.constData()))) {
+        return false;
+    }
+    if (platform == "xcb") {
+        return canConnectToX();
+    }
+    return !platform.startsWith("wayland") || canConnectToWayland();
+}
+
+} // namespace
+
+bool Toolkit::isOtherToolkitLoaded()
+{
+    return dl_iterate_phdr(isOtherToolkit, nullptr) != 0;
+}
+
+bool Toolkit::hasDisplay()
+{
+    // The toolkit takes the first of them that it can use; a colon separates the plugin's own parameters.
+    const QList<QByteArray> platforms = platformsToTry();
+    for (const QByteArray &platform : platforms) {
+        if (isUsable(platform.split(':').first())) {
+            return true;
+        }
+    }
+    return false;
+}

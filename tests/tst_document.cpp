@@ -7,6 +7,9 @@
 #include <iterator>
 #include <random>
 
+// The older releases cannot bound what entities unfold to.
+const bool readsEntities = QT_VERSION >= QT_VERSION_CHECK(5, 15, 0);
+
 class DocumentTest : public QObject
 {
     Q_OBJECT
@@ -176,7 +179,8 @@ void DocumentTest::reading_data()
         5);
     row("malformed declaration", "<?xml encoding='UTF-8'?><r><value/></r>", "", 5);
     row("blank before the declaration", " <?xml version='1.0'?><r><value/></r>", "", 5);
-    row("entity", "<!DOCTYPE r [<!ENTITY e 'E'>]><r><value name='x'>&e;&e;</value></r>", "x=EE", 5);
+    row("entity", "<!DOCTYPE r [<!ENTITY e 'E'>]><r><value name='x'>&e;&e;</value></r>", readsEntities ? "x=EE" : "",
+        5);
     row("empty", "", "", 5);
     row("no document", "Protocol=3", "", 5);
     row("entries before the error", "<r><settings version='7'/><value name='x'>1</value><value name='y'>2</valve></r>",
@@ -232,13 +236,15 @@ void DocumentTest::hostile_data()
         bomb += QString("<!ENTITY e%1 '%2'>").arg(level).arg(QString("&e%1;").arg(level - 1).repeated(10));
     }
     QTest::newRow("entities in entities") << bomb + "]><r>" + value.arg("&e8;") + "</r>" << -1;
-    QTest::newRow("the same, not referred to") << bomb + "]><r>" + value.arg("&e4;") + "</r>" << 100000;
+    QTest::newRow("the same, not referred to")
+        << bomb + "]><r>" + value.arg("&e4;") + "</r>" << (readsEntities ? 100000 : -1);
     QTest::newRow("the same, behind a character reference")
         << bomb + "<!ENTITY f '&#38;e8;'>]><r>" + value.arg("&f;") + "</r>" << -1;
     QTest::newRow("the same, in a default")
         << bomb + "<!ATTLIST value name CDATA '&e8;'>]><r>" + value.arg("1") + "</r>" << -1;
     QTest::newRow("one entity in a large document")
-        << "<!DOCTYPE r [<!ENTITY e 'E'>]><r>" + value.arg("&e;" + QString("t").repeated(99999)) + "</r>" << 100000;
+        << "<!DOCTYPE r [<!ENTITY e 'E'>]><r>" + value.arg("&e;" + QString("t").repeated(99999)) + "</r>"
+        << (readsEntities ? 100000 : -1);
     QTest::newRow("many entities in a name")
         << "<!DOCTYPE r [<!ENTITY a '" + QString("a").repeated(4000) + "'>]><r><value name='" +
                QString("&a;").repeated(20000) + "'/>" + value.arg("1") + "</r>"

@@ -3,7 +3,9 @@
 
 #include "toolkit/windows.h"
 #include "ui_dialog_about.h"
+#include "window/inputs.h"
 #include "window/showntext.h"
+#include "window/windowfit.h"
 
 #include <QHeaderView>
 #include <QItemDelegate>
@@ -108,6 +110,13 @@ DialogAbout::DialogAbout(const QString &driverName, const QString &driverVersion
 }
 
 DialogAbout::~DialogAbout() = default;
+
+int DialogAbout::exec()
+{
+    prepareInputs(*this);
+    fitForm(*this);
+    return NoHelpButtonDialog::exec();
+}
 
 void DialogAbout::setDriverName(const QString &name, const QString &version)
 {

@@ -24,6 +24,8 @@ public:
     DialogAbout &operator=(const DialogAbout &) = delete;
     ~DialogAbout() override;
 
+    int exec() PAYCARD_OVERRIDES_EXEC;
+
     /// An empty name clears the line, whatever the version.
     void setDriverName(const QString &name, const QString &version);
     /// The same for the graphical module, whose line is below.

@@ -2,23 +2,15 @@
 #include "common/nohelpbuttondialogs.h"
 
 #include "toolkit/windows.h"
+#include "window/guestwindow.h"
 #include "window/inputs.h"
-#include "window/onscreenkeyboard.h"
 #include "window/scopeddialog.h"
-#include "window/showntext.h"
 #include "window/windowfit.h"
 
-#include <QAbstractSpinBox>
-#include <QChildEvent>
-#include <QComboBox>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QPointer>
-#include <QPushButton>
-#include <QTextDocument>
-#include <QToolButton>
 
-#include <algorithm>
 #include <map>
 
 namespace {
@@ -28,73 +20,15 @@ namespace {
 // thread comes here.
 std::map<const NoHelpButtonDialog *, std::exception_ptr> failures;
 
-/// The host must not quit because a window of the library closes, be it the last one that is open. Nor for one
-/// that the toolkit opens from it, such as the question of a file dialog.
-class GuestWindows : public QObject
-{
-public:
-    explicit GuestWindows(QWidget *window) : QObject(window) { window->installEventFilter(this); }
-
-    bool eventFilter(QObject * /*window*/, QEvent *event) override
-    {
-        if (event->type() == QEvent::ChildPolished) {
-            QWidget *child = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child());
-            if (child && child->isWindow()) {
-                child->setAttribute(Qt::WA_QuitOnClose, false);
-            }
-        }
-        return false;
-    }
-};
-
-/// What holds for every window from the start.
-void makeGuest(QWidget &window)
-{
-    window.setWindowFlags(window.windowFlags() & ~Qt::WindowContextHelpButtonHint);
-    window.setAttribute(Qt::WA_QuitOnClose, false);
-    new GuestWindows(&window);
-}
-
-/// For people and touch screens; to be done when the window is complete.
-void prepareToUse(QWidget &window)
-{
-    if (!qobject_cast<QFileDialog *>(&window)) {
-        prepareInputs(window);
-    }
-    const QList<QWidget *> widgets = window.findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const bool isPart =
-            qobject_cast<QAbstractSpinBox *>(widget->parent()) || qobject_cast<QComboBox *>(widget->parent());
-        const bool isButton = qobject_cast<QPushButton *>(widget) || qobject_cast<QToolButton *>(widget);
-        const bool isInput = qobject_cast<QComboBox *>(widget) || qobject_cast<QLineEdit *>(widget) ||
-                             qobject_cast<QAbstractSpinBox *>(widget);
-        if (!isPart && (isButton || isInput)) {
-            // A minimum that is set replaces the one that a large font asks for.
-            widget->setMinimumHeight(std::max(
-                {widget->minimumHeight(), widget->minimumSizeHint().height(), NoHelpButtonDialog::TouchHeight}));
-        }
-    }
-}
-
-/// Above other windows of the host and above an on-screen keyboard; to be done when the window has its size.
-void showOnTop(QWidget &window)
-{
-    Toolkit::keepAboveActiveWindow(window);
-    keepAboveKeyboard(window);
-}
-
 QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
                                           const QString &text, QMessageBox::StandardButtons buttons,
                                           QMessageBox::StandardButton defaultButton)
 {
-    const bool isRich = Qt::mightBeRichText(text);
-    const QString shown = isRich ? ShownText::cutRich(text) : ShownText::cut(text);
-    ScopedDialog<QMessageBox> box(icon, title, shown, buttons, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    box->setToolTip(isRich ? ShownText::richToolTip(text, shown) : ShownText::toolTip(text, shown));
+    ScopedDialog<QMessageBox> box(icon, title, text, buttons, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     makeGuest(*box);
     box->setDefaultButton(defaultButton);
-    prepareToUse(*box);
-    fitText(*box);
+    prepareInputs(*box);
+    fitMessageBox(*box);
     showOnTop(*box);
     return static_cast<QMessageBox::StandardButton>(box->exec());
 }
@@ -104,8 +38,8 @@ template <class Dialog>
 bool runToAcceptance(const ScopedDialog<Dialog> &dialog)
 {
     makeGuest(*dialog);
-    prepareToUse(*dialog);
-    fitLabels(*dialog);
+    prepareInputs(*dialog);
+    fitToolkitDialog(*dialog);
     showOnTop(*dialog);
     return dialog->exec() == QDialog::Accepted && dialog;
 }
@@ -210,8 +144,6 @@ int NoHelpButtonDialog::exec()
     const QPointer<NoHelpButtonDialog> self(this);
     int code = Rejected;
     if (!failures[this]) {
-        prepareToUse(*this);
-        growToContents(*this);
         showOnTop(*this);
         code = QDialog::exec();
     }

@@ -19,16 +19,14 @@
 #define PAYCARD_OVERRIDES_EXEC
 #endif
 
-/// Base of every dialog: no context-help button, failures in slots that reach the caller of exec(), and never
-/// the last window of an application, which then would quit.
+/// Base of every dialog of the driver family: no context-help button, failures in slots that reach the caller of
+/// exec(), never the last window of an application, which then would quit, above other windows, and in sight above an
+/// on-screen keyboard. It leaves the widgets and the size of a dialog alone.
 class PAYCARD_EXPORT NoHelpButtonDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// What a finger has to hit is at least this high, in pixels: registers have touch screens.
-    static constexpr int TouchHeight = 32;
-
     /// `parent` may be null.
     explicit NoHelpButtonDialog(QWidget *parent = nullptr);
     ~NoHelpButtonDialog() override;
@@ -60,7 +58,7 @@ private:
 };
 
 /// The toolkit's message boxes without the context-help button. The box is modal; the button that closed it
-/// is returned, NoButton if the box went with its parent.
+/// is returned, NoButton if the box went with its parent. A text for which the screen is too small scrolls.
 class PAYCARD_EXPORT NoHelpButtonMessageBox
 {
 public:

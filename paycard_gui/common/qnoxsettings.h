@@ -34,9 +34,10 @@ public:
     QString toXml(int documentVersion) const;
 
     /// Replaces all entries by those of the text; by none if it is not well-formed. The version changes only
-    /// if a "settings" element is found below the outermost one, which never counts itself. A text
-    /// is also unreadable when its values take more than 2^26 characters together (they may be nested), or when
-    /// it has more than that once its entities are unfolded. Its XML declaration does not matter: it is decoded.
+    /// if a "settings" element is found below the outermost one, which never counts itself. A text is also unreadable
+    /// with more than 2^26 characters, those included that values inside values repeat. Where it declares entities, one
+    /// reference may unfold to 2^17 characters and there may be 512 ampersands and percent signs; releases of Qt before
+    /// 5.15 cannot bound them and read no such text. Its XML declaration does not matter: it is decoded.
     void fromXml(const QString &xml);
 
 private:

@@ -7,21 +7,11 @@ Arcus2LumiPaySettingsDialog::Arcus2LumiPaySettingsDialog(QNoxSettings &document,
     : LumiPaySettingsDialog(document, parent), ui(new Ui_Arcus2LumiPaySettingsDialog)
 {
     ui->setupUi(this);
-    fields = {
+    setFields({
         modemMode(ui->cmbModemMode),
-    };
+    });
     loadSettings();
     adjustSize();
 }
 
 Arcus2LumiPaySettingsDialog::~Arcus2LumiPaySettingsDialog() = default;
-
-void Arcus2LumiPaySettingsDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void Arcus2LumiPaySettingsDialog::on_pbtnCancel_clicked()
-{
-    reject();
-}

@@ -17,10 +17,6 @@ public:
     Arcus2LumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~Arcus2LumiPaySettingsDialog() override;
 
-private slots:
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
-
 private:
     std::unique_ptr<Ui_Arcus2LumiPaySettingsDialog> ui;
 };

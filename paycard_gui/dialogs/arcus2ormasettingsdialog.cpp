@@ -13,18 +13,3 @@ Arcus2OrmaSettingsDialog::Arcus2OrmaSettingsDialog(QNoxSettings &document, QWidg
 }
 
 Arcus2OrmaSettingsDialog::~Arcus2OrmaSettingsDialog() = default;
-
-void Arcus2OrmaSettingsDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void Arcus2OrmaSettingsDialog::on_pbtnCancel_clicked()
-{
-    reject();
-}
-
-void Arcus2OrmaSettingsDialog::on_cmbPort_currentIndexChanged(int /*index*/)
-{
-    showPage();
-}

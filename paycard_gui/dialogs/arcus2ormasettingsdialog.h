@@ -17,11 +17,6 @@ public:
     Arcus2OrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~Arcus2OrmaSettingsDialog() override;
 
-private slots:
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
-    void on_cmbPort_currentIndexChanged(int index);
-
 private:
     std::unique_ptr<Ui_Arcus2OrmaSettingsDialog> ui;
 };

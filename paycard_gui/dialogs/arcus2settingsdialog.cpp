@@ -14,13 +14,10 @@ Arcus2SettingsDialog::Arcus2SettingsDialog(QNoxSettings &document, QWidget *pare
     : SettingsDialog(document, parent), ui(new Ui_Arcus2SettingsDialog)
 {
     ui->setupUi(this);
-    useErrorLine(ui->lbError);
-    connect(ui->spinOpcodeCloseDay, SIGNAL(valueChanged(int)), SLOT(checkState()));
-    connect(ui->spinOpcodePrintJournal, SIGNAL(valueChanged(int)), SLOT(checkState()));
-    fields = {
+    setFields({
         {OpcodeCloseDayKey, ui->spinOpcodeCloseDay},
         {OpcodePrintJournalKey, ui->spinOpcodePrintJournal},
-    };
+    });
     // While both values stay at their initial 1 nothing is checked: the form's own text is seen in the error
     // line until a value changes. That is meant.
     loadSettings();
@@ -37,14 +34,4 @@ void Arcus2SettingsDialog::checkState()
     } else {
         resetError();
     }
-}
-
-void Arcus2SettingsDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void Arcus2SettingsDialog::on_pbtnCancel_clicked()
-{
-    reject();
 }

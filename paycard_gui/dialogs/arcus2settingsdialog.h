@@ -17,10 +17,7 @@ public:
     Arcus2SettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~Arcus2SettingsDialog() override;
 
-private slots:
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
-    void checkState();
+    void checkState() override;
 
 private:
     std::unique_ptr<Ui_Arcus2SettingsDialog> ui;

@@ -3,7 +3,6 @@
 
 #include "common/qt_utils.h"
 #include "dialogs/driverconversation.h"
-#include "forms/formutils.h"
 #include "forms/mappinglist.h"
 #include "ui_commissionadditiondialog.h"
 #include "window/showntext.h"
@@ -42,13 +41,13 @@ QString amount(double value)
 } // namespace
 
 CommissionAdditionDialog::CommissionAdditionDialog(IPayCard *object, QWidget *parent)
-    : NoHelpButtonDialog(parent), ui(new Ui_CommissionAdditionDialog), driver(object)
+    : FormDialog(parent), ui(new Ui_CommissionAdditionDialog), driver(object)
 {
     ui->setupUi(this);
     // One preview, once the list is whole. The doubled "м" is what the cashiers know.
     ui->cmbCommissionAddition->blockSignals(true);
     strToComboBox(ui->cmbCommissionAddition,
-                  numberedMapping(tr("%1:Коммиссия включена в сумму;%2:Коммиссия добавляется к сумме;")), false);
+                  numberedMapping(tr("%1:Коммиссия включена в сумму;%2:Коммиссия добавляется к сумме;"), 2), false);
     ui->cmbCommissionAddition->blockSignals(false);
     updatePreview();
 }
@@ -116,7 +115,7 @@ void CommissionAdditionDialog::setState(bool ok, const QString &text)
 {
     ui->pbtnOk->setEnabled(ok);
     ui->errorLabel->setVisible(!ok);
-    showError(ui->errorLabel, text);
+    ui->errorLabel->setError(text);
     adjustSize();
 }
 

@@ -2,8 +2,8 @@
 #ifndef COMMISSIONADDITIONDIALOG_H
 #define COMMISSIONADDITIONDIALOG_H
 
-#include "common/nohelpbuttondialogs.h"
 #include "common/qnoxpaycard.h"
+#include "forms/formdialog.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ class Ui_CommissionAdditionDialog;
 
 /// How the operator's commission is charged, with a preview of the amounts. exec() gives 0 when cancelled, 1
 /// for included in the sum, 2 for added to it.
-class CommissionAdditionDialog : public NoHelpButtonDialog
+class CommissionAdditionDialog : public FormDialog
 {
     Q_OBJECT
 

@@ -17,25 +17,15 @@ const QString OperatorCodeKey = QString::fromWCharArray(L"OperatorCode");
 const QString KeyLoadPwdKey = QString::fromWCharArray(L"KeyLoadPwd");
 const QString SerialKeyNumberKey = QString::fromWCharArray(L"SerialKeyNumber");
 
-const QString True = QString::fromLatin1("true");
-const QString False = QString::fromLatin1("false");
-
 /// A text that is shown as its default also when an empty one is stored.
 SettingField textOrDefault(const QString &key, QLineEdit *edit, const QString &def)
 {
-    return {key,
+    return {key, edit, SIGNAL(textChanged(QString)),
             [=](const QVariant &stored) {
                 const QString text = stored.toString();
                 showText(edit, text.isEmpty() ? def : text);
             },
             [=] { return edit->text(); }};
-}
-
-/// Stored as a word. Only "true" to the letter checks the box.
-SettingField trueOrFalse(const QString &key, QCheckBox *box)
-{
-    return {key, [=](const QVariant &stored) { box->setChecked(stored.toString() == True); },
-            [=] { return box->isChecked() ? True : False; }};
 }
 
 } // namespace
@@ -44,14 +34,8 @@ CyberPlatSettingsDialog::CyberPlatSettingsDialog(QNoxSettings &document, QWidget
     : SettingsDialog(document, parent), ui(new Ui_CyberPlatSettingsDialog)
 {
     ui->setupUi(this);
-    useErrorLine(ui->lbError, tr("Ошибка: "));
     alignLabels(this);
-    connect(ui->leURL, SIGNAL(textChanged(QString)), SLOT(checkState()));
-    connect(ui->leProxyServer, SIGNAL(textChanged(QString)), SLOT(checkState()));
-    connect(ui->leKeyLoadPwd, SIGNAL(textChanged(QString)), SLOT(checkState()));
-    connect(ui->checkUseProxy, SIGNAL(toggled(bool)), SLOT(checkState()));
-
-    fields = {
+    setFields({
         textOrDefault(UrlKey, ui->leURL, tr("https://payments.cyberplat.example/cgi-bin/es")),
         textOrDefault(ProxyServerKey, ui->leProxyServer, tr("localhost")),
         {KeyLoadPwdKey, ui->leKeyLoadPwd},
@@ -61,9 +45,9 @@ CyberPlatSettingsDialog::CyberPlatSettingsDialog(QNoxSettings &document, QWidget
         {PointCodeKey, ui->spinPointCode},
         {ProxyPortKey, ui->spinProxyPort, 8080},
         {SerialKeyNumberKey, ui->spinSerialKeyNumber},
-        trueOrFalse(UseProxyKey, ui->checkUseProxy),
-    };
-    loadSettings();
+        {UseProxyKey, ui->checkUseProxy},
+    });
+    loadAndCheck();
     on_checkUseProxy_toggled(ui->checkUseProxy->isChecked());
 }
 
@@ -71,24 +55,11 @@ CyberPlatSettingsDialog::~CyberPlatSettingsDialog() = default;
 
 void CyberPlatSettingsDialog::checkState()
 {
-    check(
-        {
-            {ui->leURL->text().isEmpty(), tr("Не указан адрес сервера")},
-            {ui->checkUseProxy->isChecked() && ui->leProxyServer->text().isEmpty(),
-             tr("Не указан адрес прокси-сервера")},
-            {ui->leKeyLoadPwd->text().isEmpty(), tr("Не указан пароль ключа")},
-        },
-        ui->pbtnOk);
-}
-
-void CyberPlatSettingsDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void CyberPlatSettingsDialog::on_pbtnCancel_clicked()
-{
-    reject();
+    check({
+        {ui->leURL->text().isEmpty(), tr("Не указан адрес сервера")},
+        {ui->checkUseProxy->isChecked() && ui->leProxyServer->text().isEmpty(), tr("Не указан адрес прокси-сервера")},
+        {ui->leKeyLoadPwd->text().isEmpty(), tr("Не указан пароль ключа")},
+    });
 }
 
 void CyberPlatSettingsDialog::on_checkUseProxy_toggled(bool checked)

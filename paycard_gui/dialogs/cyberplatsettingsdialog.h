@@ -17,10 +17,9 @@ public:
     CyberPlatSettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~CyberPlatSettingsDialog() override;
 
+    void checkState() override;
+
 private slots:
-    void checkState();
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
     void on_checkUseProxy_toggled(bool checked);
 
 private:

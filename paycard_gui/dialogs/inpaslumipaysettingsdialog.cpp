@@ -13,22 +13,12 @@ InpasLumiPaySettingsDialog::InpasLumiPaySettingsDialog(QNoxSettings &document, Q
     : LumiPaySettingsDialog(document, parent), ui(new Ui_InpasLumiPaySettingsDialog)
 {
     ui->setupUi(this);
-    fields = {
+    setFields({
         modemMode(ui->cmbModemMode),
         {TerminalIDKey, ui->leTerminalID},
-    };
+    });
     loadSettings();
     adjustSize();
 }
 
 InpasLumiPaySettingsDialog::~InpasLumiPaySettingsDialog() = default;
-
-void InpasLumiPaySettingsDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void InpasLumiPaySettingsDialog::on_pbtnCancel_clicked()
-{
-    reject();
-}

@@ -17,10 +17,6 @@ public:
     InpasLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~InpasLumiPaySettingsDialog() override;
 
-private slots:
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
-
 private:
     std::unique_ptr<Ui_InpasLumiPaySettingsDialog> ui;
 };

@@ -13,25 +13,9 @@ InpasOrmaSettingsDialog::InpasOrmaSettingsDialog(QNoxSettings &document, QWidget
     : OrmaSettingsDialog(document, parent), ui(new Ui_InpasOrmaSettingsDialog)
 {
     ui->setupUi(this);
-    fields.emplace_back(TerminalIDKey, ui->leTerminalID);
-    fillForm(*ui);
+    fillForm(*ui, {}, {{TerminalIDKey, ui->leTerminalID}});
     loadSettings();
     adjustSize();
 }
 
 InpasOrmaSettingsDialog::~InpasOrmaSettingsDialog() = default;
-
-void InpasOrmaSettingsDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void InpasOrmaSettingsDialog::on_pbtnCancel_clicked()
-{
-    reject();
-}
-
-void InpasOrmaSettingsDialog::on_cmbPort_currentIndexChanged(int /*index*/)
-{
-    showPage();
-}

@@ -8,6 +8,6 @@ LumiPaySettingsDialog::~LumiPaySettingsDialog() = default;
 
 SettingField LumiPaySettingsDialog::modemMode(QComboBox *combo)
 {
-    strToComboBox(combo, numberedMapping(QObject::tr("%1:Средствами ПК;%2:Модем ККТ;")), false);
+    strToComboBox(combo, numberedMapping(QObject::tr("%1:Средствами ПК;%2:Модем ККТ;"), 2), false);
     return {QString::fromWCharArray(L"ModemMode"), combo, 0};
 }

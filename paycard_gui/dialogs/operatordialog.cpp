@@ -30,16 +30,11 @@ OperatorDialog::OperatorDialog(QNoxSettings &record, QWidget *parent)
     : SettingsDialog(record, parent), ui(new Ui_OperatorDialog)
 {
     ui->setupUi(this);
-    useErrorLine(ui->lbError, tr("Ошибка: "));
     alignLabels(this);
     fillChoices();
-    connect(ui->leName, SIGNAL(textChanged(QString)), SLOT(checkState()));
-    connect(ui->leCode, SIGNAL(textChanged(QString)), SLOT(checkState()));
-    connect(ui->spinMinSum, SIGNAL(valueChanged(double)), SLOT(checkState()));
-    connect(ui->spinMaxSum, SIGNAL(valueChanged(double)), SLOT(checkState()));
 
     const QString mask = QString::fromLatin1("(999)999-99-99");
-    fields = {
+    setFields({
         {CodeKey, ui->leCode},
         {OperatorRecords::NameKey, ui->leName, tr("Оператор")},
         {MinSumKey, ui->spinMinSum},
@@ -54,9 +49,8 @@ OperatorDialog::OperatorDialog(QNoxSettings &record, QWidget *parent)
         {Mask2Key, ui->leMask2, mask},
         {SumWareCodeKey, ui->leSumWareCode},
         {ComissionWareCodeKey, ui->leCommissionWareCode},
-    };
-    loadSettings();
-    checkState();
+    });
+    loadAndCheck();
     adjustSize();
 }
 
@@ -64,10 +58,10 @@ OperatorDialog::~OperatorDialog() = default;
 
 void OperatorDialog::fillChoices()
 {
-    const QString types = numberedMapping(tr("%1:Сумма;%2:Процент;"));
-    const QString additions = numberedMapping(tr("%1:Включена в сумму;%2:Добавляется к сумме;%3:Запрос к кассиру;"));
+    const QString types = numberedMapping(tr("%1:Сумма;%2:Процент;"), 2);
+    const QString additions = numberedMapping(tr("%1:Включена в сумму;%2:Добавляется к сумме;%3:Запрос к кассиру;"), 3);
     const QString parameters =
-        numberedMapping(tr("%1:Не запрашивается;%2:Номер счета;%3:Номер телефона;%4:Логин;%5:Код;"));
+        numberedMapping(tr("%1:Не запрашивается;%2:Номер счета;%3:Номер телефона;%4:Логин;%5:Код;"), 5);
     strToComboBox(ui->cmbCommissionType, types, false);
     strToComboBox(ui->cmbCommissionAddition, additions, false);
     strToComboBox(ui->cmbParam1, parameters, false);
@@ -78,22 +72,10 @@ void OperatorDialog::fillChoices()
 
 void OperatorDialog::checkState()
 {
-    check(
-        {
-            {ui->leName->text().isEmpty(), tr("Не указано название")},
-            {ui->leCode->text().isEmpty(), tr("Не указан код")},
-            {ui->spinMinSum->value() > ui->spinMaxSum->value(),
-             tr("Минимальный платеж не может быть больше максимального")},
-        },
-        ui->pbtnOk);
-}
-
-void OperatorDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void OperatorDialog::on_pbtnCancel_clicked()
-{
-    reject();
+    check({
+        {ui->leName->text().isEmpty(), tr("Не указано название")},
+        {ui->leCode->text().isEmpty(), tr("Не указан код")},
+        {ui->spinMinSum->value() > ui->spinMaxSum->value(),
+         tr("Минимальный платеж не может быть больше максимального")},
+    });
 }

@@ -17,10 +17,7 @@ public:
     OperatorDialog(QNoxSettings &record, QWidget *parent);
     ~OperatorDialog() override;
 
-private slots:
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
-    void checkState();
+    void checkState() override;
 
 private:
     void fillChoices();

@@ -18,7 +18,7 @@ const int Lines = 18;
 } // namespace
 
 OperatorListDialog::OperatorListDialog(QNoxSettings &document, QWidget *parent)
-    : NoHelpButtonDialog(parent), ui(new Ui_OperatorListDialog), settings(document)
+    : FormDialog(parent), ui(new Ui_OperatorListDialog), settings(document)
 {
     ui->setupUi(this);
     // The list itself asks for a size that knows nothing of the font. It leaves room for the buttons on a small screen.
@@ -35,7 +35,7 @@ void OperatorListDialog::loadSettings()
 {
     const int count = OperatorRecords::count(settings);
     for (int i = 0; i < count; ++i) {
-        setRecord(new QListWidgetItem(ui->lwOperators), OperatorRecords::record(settings, i));
+        add(QNoxSettings(OperatorRecords::record(settings, i)));
         settings.remove(OperatorRecords::key(i));
     }
 }
@@ -45,8 +45,7 @@ void OperatorListDialog::saveSettings()
     const int count = ui->lwOperators->count();
     settings.set(OperatorRecords::CountKey, count);
     for (int i = 0; i < count; ++i) {
-        const QNoxSettings record(ui->lwOperators->item(i)->data(Qt::UserRole).toString());
-        settings.set(OperatorRecords::key(i), record.toXml(0));
+        settings.set(OperatorRecords::key(i), ui->lwOperators->item(i)->data(Qt::UserRole));
     }
 }
 
@@ -57,17 +56,25 @@ bool OperatorListDialog::edit(QNoxSettings &record)
     return dialog->exec() == Accepted;
 }
 
-/// An item shows the operator's name and carries its record.
-void OperatorListDialog::setRecord(QListWidgetItem *item, const QString &record)
+QListWidgetItem *OperatorListDialog::add(const QNoxSettings &record)
 {
-    const QString name = OperatorRecords::name(record);
+    QListWidgetItem *item = new QListWidgetItem;
+    setRecord(item, record);
+    ui->lwOperators->addItem(item);
+    return item;
+}
+
+/// An item shows the operator's name and carries its record.
+void OperatorListDialog::setRecord(QListWidgetItem *item, const QNoxSettings &record)
+{
+    const QString name = record.get(OperatorRecords::NameKey).toString();
     const QString shown = ShownText::cut(name);
     // Measuring takes its time, and a short one need not be measured.
     const bool fits =
         shown.size() < NameWidth / 2 || fontMetrics().boundingRect(shown).width() < ui->lwOperators->minimumWidth();
     item->setText(shown);
     item->setToolTip(ShownText::toolTip(name, fits ? shown : QString()));
-    item->setData(Qt::UserRole, record);
+    item->setData(Qt::UserRole, record.toXml(0));
 }
 
 void OperatorListDialog::enableEditing(bool enabled)
@@ -81,9 +88,7 @@ void OperatorListDialog::on_pbtnAdd_clicked()
     guarded([this] {
         QNoxSettings record;
         if (edit(record)) {
-            QListWidgetItem *item = new QListWidgetItem(ui->lwOperators);
-            setRecord(item, record.toXml(0));
-            ui->lwOperators->setCurrentItem(item);
+            ui->lwOperators->setCurrentItem(add(record));
             enableEditing(true);
         }
     });
@@ -102,7 +107,7 @@ void OperatorListDialog::on_lwOperators_itemDoubleClicked(QListWidgetItem *item)
     guarded([this, item] {
         QNoxSettings record(item->data(Qt::UserRole).toString());
         if (edit(record)) {
-            setRecord(item, record.toXml(0));
+            setRecord(item, record);
         }
     });
 }

@@ -2,7 +2,7 @@
 #ifndef OPERATORLISTDIALOG_H
 #define OPERATORLISTDIALOG_H
 
-#include "common/nohelpbuttondialogs.h"
+#include "forms/formdialog.h"
 
 #include <memory>
 
@@ -14,7 +14,7 @@ class Ui_OperatorListDialog;
 ///
 /// Takes the records out of the document when it is built and puts them back only when it is accepted: it
 /// works on a copy that the caller drops otherwise.
-class OperatorListDialog : public NoHelpButtonDialog
+class OperatorListDialog : public FormDialog
 {
     Q_OBJECT
 
@@ -35,7 +35,8 @@ private slots:
 
 private:
     bool edit(QNoxSettings &record);
-    void setRecord(QListWidgetItem *item, const QString &record);
+    QListWidgetItem *add(const QNoxSettings &record);
+    void setRecord(QListWidgetItem *item, const QNoxSettings &record);
     void enableEditing(bool enabled);
 
     std::unique_ptr<Ui_OperatorListDialog> ui;

@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QStackedWidget>
 
+#include <utility>
+
 namespace {
 
 const QString PortKey = QString::fromWCharArray(L"Port");
@@ -54,7 +56,7 @@ SettingField speed(QComboBox *combo)
 /// A number shown as four hexadecimal digits. Text that is no number counts as 0.
 SettingField hexadecimal(const QString &key, QLineEdit *edit)
 {
-    return {key,
+    return {key, edit, SIGNAL(textChanged(QString)),
             [=](const QVariant &stored) {
                 edit->setText(QString::fromLatin1("%1").arg(wholeNumber(stored, 0, 0xFFFF), 4, 16, QLatin1Char('0')));
             },
@@ -86,7 +88,8 @@ OrmaSettingsDialog::PortKind OrmaSettingsDialog::serial(QWidget *page, QComboBox
     return {QString(), choices, page, {speed(baudrate)}};
 }
 
-void OrmaSettingsDialog::fillForm(QComboBox *ports, QStackedWidget *pages, const std::vector<PortKind> &kinds)
+void OrmaSettingsDialog::fillForm(QComboBox *ports, QStackedWidget *pages, const std::vector<PortKind> &kinds,
+                                  SettingFields ownFields)
 {
     portBox = ports;
     pageStack = pages;
@@ -97,7 +100,8 @@ void OrmaSettingsDialog::fillForm(QComboBox *ports, QStackedWidget *pages, const
         choices += kind.choices;
     }
     strToComboBox(portBox, choices, false);
-    fields.emplace_back(PortKey, portBox, QString::fromLatin1("0"));
+    ownFields.emplace_back(PortKey, portBox, QString::fromLatin1("0"));
+    setFields(std::move(ownFields));
 }
 
 void OrmaSettingsDialog::loadSettings()
@@ -125,7 +129,7 @@ const OrmaSettingsDialog::PortKind &OrmaSettingsDialog::currentKind() const
     return portKinds.back();
 }
 
-void OrmaSettingsDialog::showPage()
+void OrmaSettingsDialog::on_cmbPort_currentIndexChanged(int /*index*/)
 {
     pageStack->setCurrentWidget(currentKind().page);
 }

@@ -32,23 +32,25 @@ protected:
     static PortKind network(QWidget *page, QLineEdit *address, QSpinBox *port);
 
     /// Takes the widgets that every form of the family has. `kinds` are those that only this form has; they come
-    /// first in the list of ports.
+    /// first in the list of ports. `ownFields` are loaded and saved first, whatever the port.
     template <class Form>
-    void fillForm(const Form &form, std::vector<PortKind> kinds = {})
+    void fillForm(const Form &form, std::vector<PortKind> kinds = {}, const SettingFields &ownFields = {})
     {
         kinds.push_back(usb(form.pageUsbSettings, form.leUsbVid, form.leUsbPid));
         kinds.push_back(tty(form.pageTtySettings, form.leTtyFileName, form.cmbTtyBaudrate));
         kinds.push_back(serial(form.pageSerialPortSettings, form.cmbSerialBaudrate));
-        fillForm(form.cmbPort, form.stackExtSettings, kinds);
+        fillForm(form.cmbPort, form.stackExtSettings, kinds, ownFields);
     }
-    void showPage();
+
+private slots:
+    void on_cmbPort_currentIndexChanged(int index);
 
 private:
     static PortKind usb(QWidget *page, QLineEdit *vid, QLineEdit *pid);
     static PortKind tty(QWidget *page, QLineEdit *name, QComboBox *baudrate);
     static PortKind serial(QWidget *page, QComboBox *baudrate);
     /// Offers the kinds of port in this order; the last one is that of every port which is none of the others.
-    void fillForm(QComboBox *ports, QStackedWidget *pages, const std::vector<PortKind> &kinds);
+    void fillForm(QComboBox *ports, QStackedWidget *pages, const std::vector<PortKind> &kinds, SettingFields ownFields);
     const PortKind &currentKind() const;
 
     QComboBox *portBox = nullptr;

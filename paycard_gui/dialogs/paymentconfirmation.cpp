@@ -3,6 +3,7 @@
 
 #include "common/qnoxpaycard.h"
 #include "toolkit/texts.h"
+#include "window/showntext.h"
 
 #include <QObject>
 
@@ -41,10 +42,10 @@ QString amount(double value)
     return QString::number(value, 'f', 2);
 }
 
-/// The pattern with the text for %1, shown literally; nothing when there is no text.
+/// The pattern with the driver's text for %1, shown literally; nothing when there is no text.
 QString line(const QString &pattern, const QString &text)
 {
-    return text.isEmpty() ? QString() : pattern.arg(Toolkit::escaped(text));
+    return text.isEmpty() ? QString() : pattern.arg(Toolkit::escaped(ShownText::cut(text)));
 }
 
 QString cardPaymentText(const QNoxPaycard &driver, LastReferencedOperation last)

@@ -14,7 +14,6 @@
 #include "dialogs/sberbanklumipaysettingsdialog.h"
 #include "dialogs/sberbankormasettingsdialog.h"
 #include "dialogs/slipdialog.h"
-#include "forms/formutils.h"
 #include "text/settingsreader.h"
 #include "toolkit/texts.h"
 #include "ui_paysystemdialog.h"
@@ -99,7 +98,7 @@ void PaySystemDialog::PropertiesShown::end()
 }
 
 PaySystemDialog::PaySystemDialog(IPayCard *object, QWidget *parent)
-    : NoHelpButtonDialog(parent), ui(new Ui_PaySystemDialog), driver(object), propertiesShown(driver)
+    : FormDialog(parent), ui(new Ui_PaySystemDialog), driver(object), propertiesShown(driver)
 {
     ui->setupUi(this);
     connect(ui->lePathACDialog, SIGNAL(textChanged(QString)), SLOT(checkState()));
@@ -118,7 +117,7 @@ PaySystemDialog::~PaySystemDialog() = default;
 int PaySystemDialog::exec()
 {
     const QPointer<PaySystemDialog> self(this);
-    const int code = NoHelpButtonDialog::exec();
+    const int code = FormDialog::exec();
     if (self) {
         propertiesShown.end();
     }
@@ -127,7 +126,7 @@ int PaySystemDialog::exec()
 
 void PaySystemDialog::setError(const QString &text)
 {
-    showError(ui->lbError, text);
+    ui->lbError->setError(text);
 }
 
 void PaySystemDialog::resetError()
@@ -268,7 +267,7 @@ void PaySystemDialog::on_pbtnCancel_clicked()
 {
     reportingFailure([this] {
         if (writeToDriver(textAsLoaded())) {
-            NoHelpButtonDialog::reject();
+            FormDialog::reject();
         }
     });
 }

@@ -2,9 +2,9 @@
 #ifndef PAYSYSTEMDIALOG_H
 #define PAYSYSTEMDIALOG_H
 
-#include "common/nohelpbuttondialogs.h"
 #include "common/qnoxpaycard.h"
 #include "common/qnoxsettings.h"
+#include "forms/formdialog.h"
 #include "forms/settingfields.h"
 
 #include <memory>
@@ -15,7 +15,7 @@ class Ui_PaySystemDialog;
 /// The properties of the payment system. Reads the driver's settings document, edits it together with its
 /// sub-dialogs, and writes it back: edited on OK, as it was read on Cancel. A document that cannot be read is
 /// announced when the window opens; Cancel gives it back as it is.
-class PaySystemDialog : public NoHelpButtonDialog
+class PaySystemDialog : public FormDialog
 {
     Q_OBJECT
 

@@ -8,21 +8,11 @@ SberbankLumiPaySettingsDialog::SberbankLumiPaySettingsDialog(QNoxSettings &docum
 {
     // The window has the ARCUS2 wording for its title on purpose.
     ui->setupUi(this);
-    fields = {
+    setFields({
         modemMode(ui->cmbModemMode),
-    };
+    });
     loadSettings();
     adjustSize();
 }
 
 SberbankLumiPaySettingsDialog::~SberbankLumiPaySettingsDialog() = default;
-
-void SberbankLumiPaySettingsDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void SberbankLumiPaySettingsDialog::on_pbtnCancel_clicked()
-{
-    reject();
-}

@@ -17,10 +17,6 @@ public:
     SberbankLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~SberbankLumiPaySettingsDialog() override;
 
-private slots:
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
-
 private:
     std::unique_ptr<Ui_SberbankLumiPaySettingsDialog> ui;
 };

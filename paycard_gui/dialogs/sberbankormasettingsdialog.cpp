@@ -13,18 +13,3 @@ SberbankOrmaSettingsDialog::SberbankOrmaSettingsDialog(QNoxSettings &document, Q
 }
 
 SberbankOrmaSettingsDialog::~SberbankOrmaSettingsDialog() = default;
-
-void SberbankOrmaSettingsDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void SberbankOrmaSettingsDialog::on_pbtnCancel_clicked()
-{
-    reject();
-}
-
-void SberbankOrmaSettingsDialog::on_cmbPort_currentIndexChanged(int /*index*/)
-{
-    showPage();
-}

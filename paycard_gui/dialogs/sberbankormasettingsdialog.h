@@ -17,11 +17,6 @@ public:
     SberbankOrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
     ~SberbankOrmaSettingsDialog() override;
 
-private slots:
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
-    void on_cmbPort_currentIndexChanged(int index);
-
 private:
     std::unique_ptr<Ui_SberbankOrmaSettingsDialog> ui;
 };

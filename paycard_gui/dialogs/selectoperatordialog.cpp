@@ -8,7 +8,7 @@
 #include "window/showntext.h"
 
 SelectOperatorDialog::SelectOperatorDialog(NOX::PayCard::IPayCard *object, QWidget *parent)
-    : NoHelpButtonDialog(parent), ui(new Ui_SelectOperatorDialog), driver(object)
+    : FormDialog(parent), ui(new Ui_SelectOperatorDialog), driver(object)
 {
     ui->setupUi(this);
     const QNoxSettings settings(driver.getBuff(&NOX::PayCard::IPayCard::getSettings));

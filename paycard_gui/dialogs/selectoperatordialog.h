@@ -2,15 +2,15 @@
 #ifndef SELECTOPERATORDIALOG_H
 #define SELECTOPERATORDIALOG_H
 
-#include "common/nohelpbuttondialogs.h"
 #include "common/qnoxpaycard.h"
+#include "forms/formdialog.h"
 
 #include <memory>
 
 class Ui_SelectOperatorDialog;
 
 /// Which service operator is being paid. The driver learns the index of the one that is accepted.
-class SelectOperatorDialog : public NoHelpButtonDialog
+class SelectOperatorDialog : public FormDialog
 {
     Q_OBJECT
 

@@ -37,7 +37,7 @@ void setCentred(QTextEdit *edit, const QString &text)
 SettingField centredField(const QString &key, QTextEdit *edit)
 {
     centre(edit);
-    return {key, [=](const QVariant &stored) { setCentred(edit, stored.toString()); },
+    return {key, edit, SIGNAL(textChanged()), [=](const QVariant &stored) { setCentred(edit, stored.toString()); },
             [=] { return edit->toPlainText(); }};
 }
 
@@ -47,14 +47,11 @@ SlipDialog::SlipDialog(QNoxSettings &document, QWidget *parent)
     : SettingsDialog(document, parent), ui(new Ui_SlipDialog)
 {
     ui->setupUi(this);
-    // The card's number is always masked: whatever is stored, the box is checked and stays so.
-    ui->checkHideCard->setEnabled(false);
-    fields = {
+    setFields({
         centredField(HeaderKey, ui->teHeader),
         centredField(FooterKey, ui->teFooter),
-        {HideCardKey, [this](const QVariant &) { ui->checkHideCard->setChecked(true); },
-         [this] { return ui->checkHideCard->isChecked(); }},
-    };
+        {HideCardKey, ui->checkHideCard},
+    });
     SlipDialog::loadSettings();
 }
 
@@ -63,6 +60,9 @@ SlipDialog::~SlipDialog() = default;
 void SlipDialog::loadSettings()
 {
     loadFields(fields, QNoxSettings(settings.get(SlipKey).toString()));
+    // The card's number is always masked: whatever is stored, the box is checked and stays so.
+    ui->checkHideCard->setChecked(true);
+    ui->checkHideCard->setEnabled(false);
 }
 
 void SlipDialog::saveSettings()
@@ -71,14 +71,4 @@ void SlipDialog::saveSettings()
     QNoxSettings slip(settings.get(SlipKey).toString());
     saveFields(fields, slip);
     settings.set(SlipKey, slip.toXml(0));
-}
-
-void SlipDialog::on_pbtnOk_clicked()
-{
-    saveAndAccept();
-}
-
-void SlipDialog::on_pbtnCancel_clicked()
-{
-    reject();
 }

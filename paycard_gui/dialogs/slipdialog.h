@@ -20,10 +20,6 @@ public:
     void loadSettings() override;
     void saveSettings() override;
 
-private slots:
-    void on_pbtnOk_clicked();
-    void on_pbtnCancel_clicked();
-
 private:
     std::unique_ptr<Ui_SlipDialog> ui;
 };

@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "forms/formutils.h"
 
-#include "common/nohelpbuttondialogs.h"
-#include "toolkit/windows.h"
-#include "window/errorline.h"
-#include "window/onscreenkeyboard.h"
-#include "window/showntext.h"
-#include "window/windowfit.h"
+#include "window/inputs.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -14,20 +9,6 @@
 #include <QMap>
 
 #include <algorithm>
-
-void showError(QLabel *line, const QString &text)
-{
-    const QString before = line->text();
-    ShownText::show(line, text);
-    keepReadable(*line);
-    keepAboveKeyboard(*line);
-    if (line->window()->isVisible()) {
-        growToContents(*line->window());
-        if (line->text() != before && !text.isEmpty()) {
-            Toolkit::announce(*line, line->text());
-        }
-    }
-}
 
 namespace {
 
@@ -57,8 +38,7 @@ void alignLabels(QWidget *form)
     }
     for (QLabel *label : labels) {
         if (label->buddy()) {
-            label->setMinimumSize(widths.value(columnOf(label)),
-                                  std::max(label->sizeHint().height(), NoHelpButtonDialog::TouchHeight));
+            label->setMinimumSize(widths.value(columnOf(label)), std::max(label->sizeHint().height(), TouchHeight));
         }
         QLineEdit *edit = qobject_cast<QLineEdit *>(label->buddy());
         if (edit && edit->inputMask().isEmpty()) {

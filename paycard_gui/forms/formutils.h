@@ -2,13 +2,7 @@
 #ifndef FORMUTILS_H
 #define FORMUTILS_H
 
-class QLabel;
-class QString;
 class QWidget;
-
-/// Shows the text in a window's error line; the window grows as high as it then needs to be. In a window that is open
-/// a new error is announced to a screen reader, too; with a window that opens its error is read anyway.
-void showError(QLabel *line, const QString &text);
 
 /// Makes the labels beside a form's inputs as wide as the widest of their column and as high as the inputs,
 /// so that the inputs of all groups and pages stand in columns with their labels at their middle. Inputs of any text

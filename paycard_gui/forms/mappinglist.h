@@ -4,10 +4,10 @@
 
 #include <QString>
 
-/// The mapping list of a pattern such as "%1:Сумма;%2:Процент;", with the keys 0, 1, 2, ... in order.
-inline QString numberedMapping(QString pattern)
+/// The mapping list of a pattern such as "%1:Сумма;%2:Процент;", with the keys 0, 1, 2, ... in order. `entries` is
+/// their number: of a translation the last semicolon may be missing.
+inline QString numberedMapping(QString pattern, int entries)
 {
-    const int entries = static_cast<int>(pattern.count(QLatin1Char(';')));
     for (int key = 0; key < entries; ++key) {
         pattern = pattern.arg(key);
     }

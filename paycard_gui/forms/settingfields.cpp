@@ -5,6 +5,7 @@
 #include "common/qt_utils.h"
 #include "window/inputs.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
@@ -16,11 +17,8 @@
 
 namespace {
 
-double finiteNumber(const QVariant &stored)
-{
-    const double number = stored.toDouble();
-    return std::isfinite(number) ? number : 0.0;
-}
+const QString True = QString::fromLatin1("true");
+const QString False = QString::fromLatin1("false");
 
 } // namespace
 
@@ -33,47 +31,69 @@ void showText(QLineEdit *edit, const QString &text)
 
 int wholeNumber(const QVariant &stored, int minimum, int maximum)
 {
-    const QString text = stored.toString();
+    const QString text = stored.toString().trimmed();
     bool isNumber = false;
     const qlonglong number = text.toLongLong(&isNumber);
     if (isNumber) {
         return static_cast<int>(std::max<qlonglong>(minimum, std::min<qlonglong>(number, maximum)));
     }
     // Perhaps one with more digits than the largest integers have.
-    const double large = finiteNumber(text);
-    return std::fabs(large) < 1e18 ? qBound(minimum, 0, maximum) : large < 0 ? minimum : maximum;
+    const bool isNegative = text.startsWith(QLatin1Char('-'));
+    const QString digits = text.mid(isNegative || text.startsWith(QLatin1Char('+')) ? 1 : 0);
+    const bool isWhole = !digits.isEmpty() && std::all_of(digits.begin(), digits.end(), [](QChar c) {
+        return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+    });
+    return !isWhole ? qBound(minimum, 0, maximum) : isNegative ? minimum : maximum;
 }
 
-SettingField::SettingField(const QString &name, std::function<void(const QVariant &)> showValue,
-                           std::function<QVariant()> currentValue, const QVariant &defaultValue)
-    : key(name), show(std::move(showValue)), value(std::move(currentValue)), def(defaultValue)
+SettingField::SettingField(const QString &name, QWidget *input, const char *changeSignal,
+                           std::function<void(const QVariant &)> showValue, std::function<QVariant()> currentValue,
+                           const QVariant &defaultValue)
+    : key(name),
+      widget(input),
+      changed(changeSignal),
+      show(std::move(showValue)),
+      value(std::move(currentValue)),
+      def(defaultValue)
 {
 }
 
 SettingField::SettingField(const QString &name, QLineEdit *edit, const QString &defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { showText(edit, stored.toString()); }, [=] { return edit->text(); },
-          defaultValue)
+          name, edit, SIGNAL(textChanged(QString)), [=](const QVariant &stored) { showText(edit, stored.toString()); },
+          [=] { return edit->text(); }, defaultValue)
 {
 }
 
 SettingField::SettingField(const QString &name, QSpinBox *spin, int defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { spin->setValue(wholeNumber(stored, spin->minimum(), spin->maximum())); },
+          name, spin, SIGNAL(valueChanged(int)),
+          [=](const QVariant &stored) { spin->setValue(wholeNumber(stored, spin->minimum(), spin->maximum())); },
           [=] { return spin->value(); }, defaultValue)
 {
 }
 
 SettingField::SettingField(const QString &name, QDoubleSpinBox *spin, double defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { spin->setValue(finiteNumber(stored)); }, [=] { return spin->value(); },
-          defaultValue)
+          name, spin, SIGNAL(valueChanged(double)),
+          [=](const QVariant &stored) {
+              const double number = stored.toDouble();
+              spin->setValue(std::isfinite(number) ? number : 0.0);
+          },
+          [=] { return spin->value(); }, defaultValue)
+{
+}
+
+SettingField::SettingField(const QString &name, QCheckBox *box)
+    : SettingField(
+          name, box, SIGNAL(toggled(bool)), [=](const QVariant &stored) { box->setChecked(stored.toString() == True); },
+          [=] { return box->isChecked() ? True : False; })
 {
 }
 
 SettingField::SettingField(const QString &name, QComboBox *combo, int defaultValue)
     : SettingField(
-          name,
+          name, combo, SIGNAL(currentIndexChanged(int)),
           [=](const QVariant &stored) { QComboSelectIfCan(combo, stored.toString(), QString::number(defaultValue)); },
           [=] { return cmbData(combo); }, defaultValue)
 {
@@ -81,7 +101,8 @@ SettingField::SettingField(const QString &name, QComboBox *combo, int defaultVal
 
 SettingField::SettingField(const QString &name, QComboBox *combo, const QString &defaultValue)
     : SettingField(
-          name, [=](const QVariant &stored) { QComboSelectIfCan(combo, stored.toString(), defaultValue); },
+          name, combo, SIGNAL(currentIndexChanged(int)),
+          [=](const QVariant &stored) { QComboSelectIfCan(combo, stored.toString(), defaultValue); },
           [=] { return cmbDataStr(combo); }, defaultValue)
 {
 }
@@ -94,6 +115,11 @@ void SettingField::load(const QNoxSettings &settings) const
 void SettingField::save(QNoxSettings &settings) const
 {
     settings.set(key, value());
+}
+
+void SettingField::watch(QObject *receiver, const char *slot) const
+{
+    QObject::connect(widget, changed, receiver, slot);
 }
 
 void loadFields(const SettingFields &fields, const QNoxSettings &settings)

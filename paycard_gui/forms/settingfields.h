@@ -8,11 +8,13 @@
 #include <functional>
 #include <vector>
 
+class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
 class QLineEdit;
 class QNoxSettings;
 class QSpinBox;
+class QWidget;
 
 /// One setting of a form: its key, the widget that edits it, and its value while the document has none. The
 /// widget, which must outlive the field, decides the type that is stored.
@@ -22,19 +24,26 @@ public:
     SettingField(const QString &key, QLineEdit *edit, const QString &def = QString());
     SettingField(const QString &key, QSpinBox *spin, int def = 0);
     SettingField(const QString &key, QDoubleSpinBox *spin, double def = 0.0);
+    /// Stored as the text "true" or "false"; every other text is false.
+    SettingField(const QString &key, QCheckBox *box);
     /// A choice whose key is stored as a whole number. A key that is not among the choices selects `def`.
     SettingField(const QString &key, QComboBox *combo, int def);
     /// A choice whose key is stored as text.
     SettingField(const QString &key, QComboBox *combo, const QString &def);
-    /// A setting with a way of its own into the form and back.
-    SettingField(const QString &key, std::function<void(const QVariant &)> show, std::function<QVariant()> value,
-                 const QVariant &def = QVariant());
+    /// A setting with a way of its own into the widget and back. `changed` is the widget's signal, as SIGNAL() gives
+    /// it.
+    SettingField(const QString &key, QWidget *widget, const char *changed, std::function<void(const QVariant &)> show,
+                 std::function<QVariant()> value, const QVariant &def = QVariant());
 
     void load(const QNoxSettings &settings) const;
     void save(QNoxSettings &settings) const;
+    /// Has the slot called whenever the widget shows another value.
+    void watch(QObject *receiver, const char *slot) const;
 
 private:
     QString key;
+    QWidget *widget;
+    const char *changed;
     std::function<void(const QVariant &)> show;
     std::function<QVariant()> value;
     QVariant def;
@@ -44,7 +53,7 @@ private:
 void showText(QLineEdit *edit, const QString &text);
 
 /// The stored number, or the nearest one in the range when it is beyond, whatever its size. Text that is no whole
-/// number counts as 0.
+/// number, such as "1e30" or "12.5", counts as 0.
 int wholeNumber(const QVariant &stored, int minimum, int maximum);
 
 /// The settings of a form, which are loaded and saved in this order.

@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "forms/settingsdialog.h"
 
-#include "forms/formutils.h"
 #include "window/errorline.h"
 
-#include <QLabel>
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
-SettingsDialog::SettingsDialog(QNoxSettings &document, QWidget *parent) : NoHelpButtonDialog(parent), settings(document)
-{
-}
+SettingsDialog::SettingsDialog(QNoxSettings &document, QWidget *parent) : FormDialog(parent), settings(document) {}
 
 SettingsDialog::~SettingsDialog() = default;
 
@@ -25,42 +22,55 @@ void SettingsDialog::saveSettings()
     saveFields(fields, settings);
 }
 
-void SettingsDialog::useErrorLine(QLabel *line, const QString &prefix)
-{
-    keepReadable(*line);
-    errorLine = line;
-    errorPrefix = prefix;
-}
-
 void SettingsDialog::setError(const QString &text)
 {
-    if (errorLine) {
-        showError(errorLine, errorPrefix + text);
+    if (ErrorLine *line = findChild<ErrorLine *>(QString::fromLatin1("lbError"))) {
+        line->setError(text);
     }
 }
 
 void SettingsDialog::resetError()
 {
-    if (errorLine) {
-        showError(errorLine, QString());
-    }
+    setError(QString());
 }
 
-void SettingsDialog::check(std::initializer_list<Rule> rules, QPushButton *ok)
+void SettingsDialog::checkState() {}
+
+void SettingsDialog::check(std::initializer_list<Rule> rules)
 {
     const auto broken = std::find_if(rules.begin(), rules.end(), [](const Rule &rule) { return rule.broken; });
-    ok->setEnabled(broken == rules.end());
-    if (broken == rules.end()) {
-        resetError();
-    } else {
-        setError(broken->message);
+    findChild<QPushButton *>(QString::fromLatin1("pbtnOk"))->setEnabled(broken == rules.end());
+    setError(broken == rules.end() ? QString() : broken->message);
+}
+
+void SettingsDialog::setFields(SettingFields table)
+{
+    fields = std::move(table);
+    for (const SettingField &field : fields) {
+        field.watch(this, SLOT(noteChange()));
     }
 }
 
-void SettingsDialog::saveAndAccept()
+void SettingsDialog::loadAndCheck()
+{
+    loadSettings();
+    checkState();
+}
+
+void SettingsDialog::noteChange()
+{
+    guarded([this] { checkState(); });
+}
+
+void SettingsDialog::on_pbtnOk_clicked()
 {
     guarded([this] {
         saveSettings();
         accept();
     });
+}
+
+void SettingsDialog::on_pbtnCancel_clicked()
+{
+    reject();
 }

@@ -2,18 +2,17 @@
 #ifndef SETTINGSDIALOG_H
 #define SETTINGSDIALOG_H
 
-#include "common/nohelpbuttondialogs.h"
+#include "forms/formdialog.h"
 #include "forms/settingfields.h"
 
 #include <initializer_list>
 
-class QLabel;
 class QNoxSettings;
-class QPushButton;
 
 /// A dialog that edits some settings of its caller's document: it fills its form when it is built and writes
-/// to the document only when it is accepted.
-class SettingsDialog : public NoHelpButtonDialog
+/// to the document only when it is accepted. The form has the buttons "pbtnOk" and "pbtnCancel", and the error line
+/// "lbError" if there is anything to check.
+class SettingsDialog : public FormDialog
 {
     Q_OBJECT
 
@@ -28,26 +27,31 @@ public:
     void setError(const QString &text);
     void resetError();
 
+public slots:
+    /// Says whether the form can be saved as it is; called at each change of a field.
+    virtual void checkState();
+
 protected:
     struct Rule
     {
         bool broken;
         QString message;
     };
-    /// Where errors are shown, each behind the prefix.
-    void useErrorLine(QLabel *line, const QString &prefix = QString());
     /// Shows the message of the first broken rule and disables OK; or neither, when all hold.
-    void check(std::initializer_list<Rule> rules, QPushButton *ok);
+    void check(std::initializer_list<Rule> rules);
 
-    void saveAndAccept();
+    /// Takes the settings that the form shows. To be called once there is a form.
+    void setFields(SettingFields table);
+    /// Fills the form, and checks it also when that has changed nothing.
+    void loadAndCheck();
 
     QNoxSettings &settings;
-    /// The settings that the form shows; set by the constructors once there is a form.
     SettingFields fields;
 
-private:
-    QLabel *errorLine = nullptr;
-    QString errorPrefix;
+private slots:
+    void noteChange();
+    void on_pbtnOk_clicked();
+    void on_pbtnCancel_clicked();
 };
 
 #endif

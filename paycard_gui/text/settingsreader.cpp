@@ -3,8 +3,6 @@
 
 #include "toolkit/texts.h"
 
-#include <QHash>
-
 #include <algorithm>
 
 namespace {
@@ -14,14 +12,11 @@ const QLatin1String ValueTag("value");
 const QLatin1String VersionAttribute("version");
 const QLatin1String NameAttribute("name");
 
-// Most characters that the values of one document may take, and that it may have once its entities are
-// unfolded. Values inside values repeat the text that they share, so that a small text could otherwise fill
-// the memory.
+// Most characters that are read of one document: unfolded entities and what values inside values repeat included, so
+// that a small text cannot fill the memory.
 const int MaxCharacters = 1 << 26;
-// Most characters that one reference may unfold to where the sum cannot be foreseen.
-const int EntityGrowth = 4096;
-// Entities within entities that are followed; a chain that is longer counts as one without end.
-const int MaxEntityDepth = 1000;
+// Most characters that one reference to an entity may unfold to.
+const int EntityGrowth = 1 << 17;
 
 /// Gives the attribute of an XML declaration this value, if it is there.
 void setPseudoAttribute(QString &declaration, const char *attribute, const char *value)
@@ -52,73 +47,6 @@ QString withPlainDeclaration(const QString &xml)
     return declaration + xml.mid(end);
 }
 
-/// True when entities may unfold before the reader tells of their declarations: in parameter entities, and in
-/// the defaults of attributes.
-bool unfoldsInDeclarations(const QString &xml)
-{
-    const QString declaration = QLatin1String("<!ENTITY");
-    auto at = xml.indexOf(declaration);
-    if (at >= 0 && xml.contains(QLatin1String("<!ATTLIST"))) {
-        return true;
-    }
-    for (; at >= 0; at = xml.indexOf(declaration, at + 1)) {
-        auto name = at + declaration.size();
-        while (name < xml.size() && xml.at(name).isSpace()) {
-            ++name;
-        }
-        if (name < xml.size() && xml.at(name) == QLatin1Char('%')) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// What the entities of a document make of texts that refer to them.
-class Entities
-{
-public:
-    explicit Entities(const QXmlStreamEntityDeclarations &declarations)
-    {
-        for (const QXmlStreamEntityDeclaration &declaration : declarations) {
-            values.insert(declaration.name().toString(), declaration.value().toString());
-            longestName = std::max(longestName, static_cast<int>(declaration.name().size()));
-        }
-    }
-
-    /// Characters that the text takes from `start` on with its references unfolded; more than MaxCharacters
-    /// for any number of them beyond.
-    qint64 unfoldedSize(const QString &text, qint64 start = 0, int depth = 0)
-    {
-        qint64 size = text.size() - start;
-        auto reference = text.indexOf(QLatin1Char('&'), static_cast<int>(start));
-        for (; reference >= 0 && size <= MaxCharacters; reference = text.indexOf(QLatin1Char('&'), reference + 1)) {
-            const QString name = text.mid(reference + 1, longestName + 1);
-            size += sizeOf(name.left(name.indexOf(QLatin1Char(';'))), depth);
-        }
-        return size;
-    }
-
-private:
-    qint64 sizeOf(const QString &name, int depth)
-    {
-        const auto value = values.constFind(name);
-        if (value == values.constEnd()) {
-            return 0;
-        }
-        const auto known = sizes.constFind(name);
-        if (known != sizes.constEnd()) {
-            return *known;
-        }
-        const qint64 size = depth < MaxEntityDepth ? unfoldedSize(*value, 0, depth + 1) : MaxCharacters + 1;
-        sizes.insert(name, size);
-        return size;
-    }
-
-    int longestName = 0;
-    QHash<QString, QString> values;
-    QHash<QString, qint64> sizes;
-};
-
 } // namespace
 
 SettingsReader::SettingsReader(const QString &xml) : text(xml) {}
@@ -132,23 +60,16 @@ bool SettingsReader::read()
     text = withPlainDeclaration(text);
     reader.emplace(text);
     reader->setNamespaceProcessing(false);
-    // One reference is held to its own bound where all of them together cannot be.
-    const bool unforeseen = unfoldsInDeclarations(text);
-    const bool bounded = Toolkit::boundEntities(*reader, unforeseen ? EntityGrowth : MaxCharacters);
-    if (unforeseen && (!bounded || text.size() > MaxCharacters / EntityGrowth)) {
+    if (!boundEntities()) {
         return false;
     }
     while (!reader->atEnd()) {
         switch (reader->readNext()) {
-        case QXmlStreamReader::DTD:
-            if (!unforeseen && !unfoldsWithinBound()) {
-                return false;
-            }
-            break;
         case QXmlStreamReader::StartElement:
             startElement();
             break;
         case QXmlStreamReader::Characters:
+            characters += reader->text().size();
             if (!open.empty()) {
                 openText += reader->text();
             }
@@ -159,7 +80,7 @@ bool SettingsReader::read()
         default:
             break;
         }
-        if (characters + openText.size() > MaxCharacters) {
+        if (characters > MaxCharacters) {
             return false;
         }
     }
@@ -173,15 +94,22 @@ QString SettingsReader::value(const QString &name) const
     return last == entries.rend() ? QString() : last->value;
 }
 
-bool SettingsReader::unfoldsWithinBound()
+/// Between two looks at what has been read the reader may unfold all references there are.
+bool SettingsReader::boundEntities()
 {
-    const QXmlStreamEntityDeclarations declarations = reader->entityDeclarations();
-    return declarations.isEmpty() ||
-           Entities(declarations).unfoldedSize(text, reader->characterOffset()) <= MaxCharacters;
+    if (!text.contains(QLatin1String("<!ENTITY"))) {
+        return true;
+    }
+    const auto references = text.count(QLatin1Char('&')) + text.count(QLatin1Char('%'));
+    return Toolkit::boundEntities(*reader, EntityGrowth) && references <= MaxCharacters / EntityGrowth;
 }
 
 void SettingsReader::startElement()
 {
+    const QXmlStreamAttributes attributes = reader->attributes();
+    for (const QXmlStreamAttribute &attribute : attributes) {
+        characters += attribute.value().size();
+    }
     // The outermost element is never an entry and its version never counts, whatever its name.
     if (depth++ == 0) {
         return;
@@ -191,10 +119,10 @@ void SettingsReader::startElement()
             openText.clear();
         }
         open.push_back({entries.size(), openText.size()});
-        entries.push_back({reader->attributes().value(NameAttribute).toString(), QString()});
+        entries.push_back({attributes.value(NameAttribute).toString(), QString()});
     } else if (!hasVersion && reader->qualifiedName() == SettingsTag) {
         hasVersion = true;
-        version = reader->attributes().value(VersionAttribute).toString().toInt();
+        version = attributes.value(VersionAttribute).toString().toInt();
     }
 }
 
@@ -203,7 +131,8 @@ void SettingsReader::endElement()
     if (--depth > 0 && reader->qualifiedName() == ValueTag) {
         const OpenValue &value = open.back();
         entries[value.entry].value = openText.mid(value.start);
-        characters += entries[value.entry].value.size();
+        // That of the outermost value has been counted as it was read; the others repeat it.
+        characters += open.size() > 1 ? entries[value.entry].value.size() : 0;
         open.pop_back();
     }
 }

@@ -16,8 +16,8 @@ class SettingsReader
 public:
     explicit SettingsReader(const QString &xml);
 
-    /// False when the text is no document, or one whose values or entities unfold beyond the bound that
-    /// QNoxSettings::fromXml() tells; nothing that was read counts then.
+    /// False when the text is no document, or one that is larger than QNoxSettings::fromXml() tells; nothing that was
+    /// read counts then.
     bool read();
 
     /// The entries in document order: of two with the same name the later one counts.
@@ -36,7 +36,7 @@ private:
         Size start;
     };
 
-    bool unfoldsWithinBound();
+    bool boundEntities();
     void startElement();
     void endElement();
 

@@ -1,44 +1,48 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "window/errorline.h"
 
-#include <QEvent>
-#include <QLabel>
+#include "toolkit/windows.h"
+#include "window/showntext.h"
+#include "window/windowfit.h"
+
 #include <QPainter>
 
-namespace {
-
-const char *const Name = "errorBackground";
-
-/// Paints before the label does.
-class ErrorBackground : public QObject
+ErrorLine::ErrorLine(QWidget *parent) : QLabel(parent)
 {
-public:
-    explicit ErrorBackground(QLabel *label) : QObject(label)
-    {
-        setObjectName(QString::fromLatin1(Name));
-        label->installEventFilter(this);
-    }
+    QPalette colours;
+    colours.setColor(QPalette::Active, QPalette::WindowText, Qt::red);
+    colours.setColor(QPalette::Inactive, QPalette::WindowText, Qt::red);
+    colours.setColor(QPalette::Disabled, QPalette::WindowText, QColor(120, 120, 120));
+    setPalette(colours);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    setWordWrap(true);
+}
 
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            QLabel *label = static_cast<QLabel *>(watched);
-            const QPalette around = label->window()->palette();
-            const bool isDark =
-                around.color(QPalette::Window).lightness() < around.color(QPalette::WindowText).lightness();
-            if (isDark && !label->text().isEmpty()) {
-                QPainter(label).fillRect(label->rect(), Qt::black);
-            }
+void ErrorLine::setPrefix(const QString &text)
+{
+    prefix = text;
+}
+
+void ErrorLine::setError(const QString &error)
+{
+    const QString before = text();
+    setTextFormat(Qt::PlainText);
+    ShownText::show(this, error.isEmpty() ? QString() : prefix + error);
+    if (window()->isVisible()) {
+        fitForm(*window());
+        if (text() != before && !text().isEmpty()) {
+            Toolkit::announce(*this, text());
         }
-        return false;
     }
-};
+    emit changed();
+}
 
-} // namespace
-
-void keepReadable(QLabel &errorLine)
+void ErrorLine::paintEvent(QPaintEvent *event)
 {
-    if (!errorLine.findChild<QObject *>(QString::fromLatin1(Name))) {
-        new ErrorBackground(&errorLine);
+    const QPalette around = window()->palette();
+    if (!text().isEmpty() &&
+        around.color(QPalette::Window).lightness() < around.color(QPalette::WindowText).lightness()) {
+        QPainter(this).fillRect(rect(), Qt::black);
     }
+    QLabel::paintEvent(event);
 }

@@ -2,10 +2,32 @@
 #ifndef ERRORLINE_H
 #define ERRORLINE_H
 
-class QLabel;
+#include <QLabel>
 
-/// Gives a window's error line a background of its own while the palette is dark: its red could not be read on that of
-/// the window. To be called as often as one likes.
-void keepReadable(QLabel &errorLine);
+/// The line of a window that says what is wrong: red, of as many lines as it takes, and as wide as the window is. While
+/// the palette is dark it has a background of its own, since its red could not be read on that of the window.
+class ErrorLine : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ErrorLine(QWidget *parent = nullptr);
+
+    /// What stands before each error.
+    void setPrefix(const QString &text);
+
+    /// Shows the error, or none. The window grows as high as it then needs to be; in one that is open a new error is
+    /// announced to a screen reader, too (with a window that opens its error is read anyway).
+    void setError(const QString &error);
+
+signals:
+    void changed();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString prefix;
+};
 
 #endif

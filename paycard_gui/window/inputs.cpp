@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "window/inputs.h"
 
-#include "text/drivertext.h"
-
+#include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
+#include <QToolButton>
 #include <QValidator>
 #include <QVariant>
+
+#include <algorithm>
+#include <limits>
+#include <typeinfo>
 
 namespace {
 
@@ -19,15 +26,15 @@ bool isSeparator(QChar c)
     return c == QLatin1Char('.') || c == QLatin1Char(',');
 }
 
-/// True for the toolkit's own inputs of decimal numbers. Others, such as those of dates or of hexadecimal numbers, and
-/// the family's own see to what they take themselves.
+/// True for the toolkit's own inputs of decimal numbers; every other, be it derived from one of them, sees to what it
+/// takes itself.
 bool takesPlainNumber(const QAbstractSpinBox &spin)
 {
-    const QByteArray name = spin.metaObject()->className();
+    const bool isPlain = typeid(spin) == typeid(QSpinBox) || typeid(spin) == typeid(QDoubleSpinBox) ||
+                         qobject_cast<QInputDialog *>(spin.parentWidget());
     const QVariant base = spin.property("displayIntegerBase");
-    return (name == "QSpinBox" || name == "QDoubleSpinBox" || name.startsWith("QInputDialog")) &&
-           (!base.isValid() || base.toInt() == 10) && spin.property("prefix").toString().isEmpty() &&
-           spin.specialValueText().isEmpty();
+    return isPlain && (!base.isValid() || base.toInt() == 10) && !spin.property("showGroupSeparator").toBool() &&
+           spin.property("prefix").toString().isEmpty() && spin.specialValueText().isEmpty();
 }
 
 /// Decimals that the input takes.
@@ -140,24 +147,51 @@ public:
     }
 };
 
+void validate(QLineEdit *edit)
+{
+    QAbstractSpinBox *spin = qobject_cast<QAbstractSpinBox *>(edit->parentWidget());
+    if (spin && takesPlainNumber(*spin)) {
+        edit->setValidator(new NumberValidator(spin));
+    } else if (!spin && edit->inputMask().isEmpty() && !edit->validator()) {
+        edit->setValidator(new SingleLineValidator(edit));
+    }
+}
+
+bool isTouched(const QWidget *widget)
+{
+    return qobject_cast<const QPushButton *>(widget) || qobject_cast<const QToolButton *>(widget) ||
+           qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+           qobject_cast<const QAbstractSpinBox *>(widget);
+}
+
 } // namespace
 
 void prepareInputs(QWidget &window)
 {
-    const QList<QLineEdit *> edits = window.findChildren<QLineEdit *>();
-    for (QLineEdit *edit : edits) {
-        QAbstractSpinBox *spin = qobject_cast<QAbstractSpinBox *>(edit->parentWidget());
-        if (spin) {
-            if (takesPlainNumber(*spin)) {
-                edit->setValidator(new NumberValidator(spin));
-            }
-        } else if (edit->inputMask().isEmpty() && !edit->validator()) {
-            edit->setValidator(new SingleLineValidator(edit));
+    // The name of a file may have any character.
+    const bool isFileDialog = qobject_cast<QFileDialog *>(&window);
+    const QList<QWidget *> widgets = window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        QLineEdit *edit = qobject_cast<QLineEdit *>(widget);
+        if (edit && !isFileDialog) {
+            validate(edit);
+        }
+        if (isTouched(widget) && !isPartOfInput(*widget)) {
+            // A minimum that is set replaces the one that a large font asks for.
+            widget->setMinimumHeight(
+                std::max({widget->minimumHeight(), widget->minimumSizeHint().height(), TouchHeight}));
         }
     }
 }
 
+bool isPartOfInput(const QWidget &widget)
+{
+    const QWidget *parent = widget.parentWidget();
+    return qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent) ||
+           qobject_cast<const QLineEdit *>(parent);
+}
+
 void liftLengthLimit(QLineEdit *edit)
 {
-    edit->setMaxLength(DriverText::MaxLength);
+    edit->setMaxLength(std::numeric_limits<int>::max());
 }

@@ -63,31 +63,17 @@ class KeyboardFollower : public QObject
     Q_OBJECT
 
 public:
-    explicit KeyboardFollower(QWidget *followed) : QObject(followed), window(followed)
+    explicit KeyboardFollower(QWidget *followed)
+        : QObject(followed), window(followed), errorLine(followed->findChild<ErrorLine *>())
     {
+        if (errorLine) {
+            connect(errorLine, SIGNAL(changed()), SLOT(follow()));
+        }
         goingHome.setSingleShot(true);
         goingHome.setInterval(GoingHomeDelay);
         connect(&goingHome, SIGNAL(timeout()), SLOT(goHome()));
         connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), SLOT(follow()));
         Toolkit::connectKeyboard(this, SLOT(follow()));
-    }
-
-    /// That of the window, which is made when it is asked for first.
-    static KeyboardFollower *of(QWidget &window)
-    {
-        const QObjectList &children = window.children();
-        for (QObject *child : children) {
-            if (KeyboardFollower *follower = qobject_cast<KeyboardFollower *>(child)) {
-                return follower;
-            }
-        }
-        return new KeyboardFollower(&window);
-    }
-
-    void setErrorLine(QLabel *line)
-    {
-        errorLine = line;
-        follow();
     }
 
 private slots:
@@ -100,8 +86,8 @@ private:
     void moveTo(const QPoint &place);
 
     QWidget *window;
-    QPointer<QLabel> errorLine;
-    QPointer<QLabel> repeated;
+    QPointer<ErrorLine> errorLine;
+    QPointer<ErrorLine> repeated;
     /// Where the window was before it was moved: its inner part, as that of the frame is not known from the start.
     QPoint home;
     bool moved = false;
@@ -132,7 +118,7 @@ void KeyboardFollower::goHome()
     if (moved) {
         moved = false;
         moveTo(home);
-        keepOnScreen(*window);
+        moveOntoScreen(*window);
     }
 }
 
@@ -175,15 +161,12 @@ void KeyboardFollower::moveTo(const QPoint &place)
 void KeyboardFollower::repeatError()
 {
     if (!repeated) {
-        repeated = new QLabel(window);
-        keepReadable(*repeated);
+        repeated = new ErrorLine(window);
         repeated->setAutoFillBackground(true);
         repeated->setFrameShape(QFrame::StyledPanel);
         repeated->setMargin(Margin);
         repeated->setTextFormat(errorLine->textFormat());
-        repeated->setWordWrap(true);
     }
-    repeated->setPalette(errorLine->palette());
     repeated->setText(errorLine->text());
     repeated->resize(window->width(), repeated->heightForWidth(window->width()));
     repeated->raise();
@@ -194,12 +177,12 @@ void KeyboardFollower::repeatError()
 
 void keepAboveKeyboard(QWidget &window)
 {
-    KeyboardFollower::of(window);
-}
-
-void keepAboveKeyboard(QLabel &errorLine)
-{
-    KeyboardFollower::of(*errorLine.window())->setErrorLine(&errorLine);
+    // One that is opened again has it.
+    const QObjectList &children = window.children();
+    if (std::none_of(children.begin(), children.end(),
+                     [](QObject *child) { return qobject_cast<KeyboardFollower *>(child); })) {
+        new KeyboardFollower(&window);
+    }
 }
 
 #include "onscreenkeyboard.moc"

@@ -2,15 +2,12 @@
 #ifndef ONSCREENKEYBOARD_H
 #define ONSCREENKEYBOARD_H
 
-class QLabel;
 class QWidget;
 
 /// Keeps the window's input that has the focus, with its label, in sight above an on-screen keyboard: the window moves
-/// up, beyond the upper edge of the screen if it must, and back when the keyboard goes. Does nothing with a toolkit
-/// that knows no such keyboard.
+/// up, beyond the upper edge of the screen if it must, and back when the keyboard goes. An error line that is covered
+/// is repeated above the keyboard. To be called when the window is complete. Does nothing with a toolkit that knows no
+/// such keyboard.
 void keepAboveKeyboard(QWidget &window);
-
-/// Tells what a window's error line says now. It is repeated above the keyboard where that covers the line.
-void keepAboveKeyboard(QLabel &errorLine);
 
 #endif

@@ -11,11 +11,7 @@ namespace {
 
 const int MaxLength = 500;
 const int MaxLines = 12;
-/// Of rich text, with what stands beside the driver's own.
-const int MaxRichLength = 600;
 const int MaxToolTipLength = 10000;
-/// Longest tag, so that the end of what looks like one is not sought through a whole text.
-const int MaxUnitLength = 1000;
 
 const QChar Ellipsis(0x2026);
 
@@ -27,36 +23,6 @@ QString beginning(const QString &text, int length)
     }
     const bool splitsPair = length > 0 && text.at(length - 1).isHighSurrogate();
     return text.left(splitsPair ? length - 1 : length) + Ellipsis;
-}
-
-/// Length of what is read as one in rich text: a tag, an entity, or a character.
-int unitLength(const QString &text, int start)
-{
-    const QChar first = text.at(start);
-    if (first != QLatin1Char('<') && first != QLatin1Char('&')) {
-        return first.isHighSurrogate() ? 2 : 1;
-    }
-    const auto end = text.mid(start, MaxUnitLength).indexOf(QLatin1Char(first == QLatin1Char('<') ? '>' : ';'));
-    return end < 0 ? 1 : static_cast<int>(end) + 1;
-}
-
-/// Cuts each line of a rich text.
-QString cutLines(const QString &text, int maxLength)
-{
-    QString shown;
-    int length = 0; // of the line
-    for (int start = 0; start < text.size();) {
-        const QString unit = text.mid(start, unitLength(text, start));
-        start += static_cast<int>(unit.size());
-        const bool isTag = unit.startsWith(QLatin1Char('<')) && unit.size() > 1;
-        if (isTag || length < maxLength) {
-            shown += unit;
-        } else if (length == maxLength) {
-            shown += Ellipsis;
-        }
-        length = unit.startsWith(QLatin1String("<br")) ? 0 : isTag ? length : length + 1;
-    }
-    return shown;
 }
 
 } // namespace
@@ -73,22 +39,12 @@ QString ShownText::cut(const QString &text)
     return shown;
 }
 
-QString ShownText::cutRich(const QString &text)
-{
-    return cutLines(text, MaxRichLength);
-}
-
 QString ShownText::toolTip(const QString &text, const QString &shown)
 {
     if (text == shown) {
         return QString();
     }
     return QLatin1String("<span>") + Toolkit::escaped(beginning(text, MaxToolTipLength)) + QLatin1String("</span>");
-}
-
-QString ShownText::richToolTip(const QString &text, const QString &shown)
-{
-    return text == shown ? QString() : cutLines(text, MaxToolTipLength);
 }
 
 void ShownText::show(QLabel *label, const QString &text)

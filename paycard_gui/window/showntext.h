@@ -15,14 +15,9 @@ namespace ShownText {
 /// The text, or its beginning with an ellipsis.
 QString cut(const QString &text);
 
-/// The same for rich text, line by line: its breaks and the rest of its markup stay.
-QString cutRich(const QString &text);
-
 /// The whole of a text that is shown as another one, as rich text; nothing when they are the same. It is cut, too,
 /// but only where showing it would take seconds.
 QString toolTip(const QString &text, const QString &shown);
-/// The same for rich text.
-QString richToolTip(const QString &text, const QString &shown);
 
 /// Shows it in the label, which it does not make wider than the screen has room for.
 void show(QLabel *label, const QString &text);

@@ -110,6 +110,7 @@ public:
     {
         setFrameShape(QFrame::NoFrame);
         setWidgetResizable(true);
+        setFocusPolicy(Qt::NoFocus);
         setMaximumHeight(limit.height());
         QSizePolicy policy = label->sizePolicy();
         policy.setHeightForWidth(true);
@@ -127,7 +128,24 @@ public:
     {
         // A message box ends it while it measures.
         label->setWordWrap(true);
-        return std::min(label->heightForWidth(available - Slack), maximumHeight());
+        return std::min(std::max(label->heightForWidth(available - Slack), minimumSizeHint().height()),
+                        maximumHeight());
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::LayoutRequest) {
+            updateGeometry(); // the text is another one
+        }
+        return QScrollArea::event(event);
+    }
+
+    /// The keyboard comes here only where there is something to scroll.
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QScrollArea::resizeEvent(event);
+        setFocusPolicy(label->height() > viewport()->height() ? Qt::StrongFocus : Qt::NoFocus);
     }
 
 private:
@@ -150,6 +168,7 @@ void scrollContents(QWidget &window)
     QScrollArea *area = new QScrollArea(&window);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus); // it follows that of what is in it
     putInPlaceOf(contents, area);
     area->setWidget(contents);
     const QList<QLabel *> labels = window.findChildren<QLabel *>();
@@ -169,11 +188,14 @@ void scrollContents(QWidget &window)
 
 } // namespace
 
-void fitText(QMessageBox &box)
+void fitMessageBox(QMessageBox &box)
 {
     const QSize room = roomFor(box);
     QGridLayout *layout = qobject_cast<QGridLayout *>(box.layout());
     QLabel *label = box.findChild<QLabel *>(QString::fromLatin1("qt_msgbox_label"));
+    if (!layout || !label) {
+        return;
+    }
     // As the toolkit has it when the text does not fit into one line.
     label->setWordWrap(true);
     int width = std::min(room.width() / 2, 500);
@@ -189,13 +211,16 @@ void fitText(QMessageBox &box)
     }
 }
 
-void fitLabels(QDialog &dialog)
+void fitToolkitDialog(QDialog &dialog)
 {
     const QSize room = roomFor(dialog);
     // An input dialog has neither a size nor a layout before it is asked for the size that it wants.
     const QSize hint = dialog.sizeHint();
     const QSize wanted = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : hint;
     QLayout *layout = dialog.layout();
+    if (!layout) {
+        return;
+    }
     if (layout->totalMinimumSize().width() > room.width()) {
         const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
         for (QLabel *label : labels) {
@@ -208,7 +233,7 @@ void fitLabels(QDialog &dialog)
     }
 }
 
-void growToContents(QWidget &window)
+void fitForm(QWidget &window)
 {
     QLayout *layout = window.layout();
     if (!layout) {
@@ -231,10 +256,10 @@ void growToContents(QWidget &window)
             growToShow(window, *area);
         }
     }
-    keepOnScreen(window);
+    moveOntoScreen(window);
 }
 
-void keepOnScreen(QWidget &window)
+void moveOntoScreen(QWidget &window)
 {
     const QRect screen = Toolkit::availableGeometry(window);
     const QRect frame = window.frameGeometry();

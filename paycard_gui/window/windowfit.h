@@ -6,20 +6,21 @@ class QDialog;
 class QMessageBox;
 class QWidget;
 
-/// Makes the window as large as its contents and its title need it to be, at least, but no larger than its screen:
-/// where that is too small, the widget "contents" of its form scrolls, while buttons and error line stay in sight.
-/// The toolkit does not see to the height of wrapped texts: not once a window is shown, and with its oldest release
-/// never.
-void growToContents(QWidget &window);
+/// Each of these makes a window as large as its contents and its title need it to be, but no larger than its screen;
+/// what then has no room scrolls. The toolkit does not see to the height of wrapped texts: not once a window is shown,
+/// and with its oldest release never.
 
-/// The same for a message box, which sees to its size itself except that its text may be longer than the screen is
-/// high: that scrolls then.
-void fitText(QMessageBox &box);
+/// For a window with a form of the library's: its widget "contents" scrolls, while buttons and error line stay in
+/// sight. At any time.
+void fitForm(QWidget &window);
 
-/// The same for the toolkit's dialogs of inputs and files.
-void fitLabels(QDialog &dialog);
+/// For a message box, of which the text scrolls. Before it is shown.
+void fitMessageBox(QMessageBox &box);
+
+/// For the toolkit's dialogs of inputs and files. Before they are shown; does nothing with one that the desktop draws.
+void fitToolkitDialog(QDialog &dialog);
 
 /// Moves a window that is open and reaches over the lower or right edge of its screen.
-void keepOnScreen(QWidget &window);
+void moveOntoScreen(QWidget &window);
 
 #endif

@@ -4,14 +4,13 @@
 #include "ui_arcus2lumipaysettingsdialog.h"
 
 Arcus2LumiPaySettingsDialog::Arcus2LumiPaySettingsDialog(QNoxSettings &document, QWidget *parent)
-    : LumiPaySettingsDialog(document, parent), ui(new Ui_Arcus2LumiPaySettingsDialog)
+    : LumiPaySettingsDialog(document, parent)
 {
-    ui->setupUi(this);
+    Ui_Arcus2LumiPaySettingsDialog ui;
+    ui.setupUi(this);
     setFields({
-        modemMode(ui->cmbModemMode),
+        modemMode(ui.cmbModemMode),
     });
     loadSettings();
     adjustSize();
 }
-
-Arcus2LumiPaySettingsDialog::~Arcus2LumiPaySettingsDialog() = default;

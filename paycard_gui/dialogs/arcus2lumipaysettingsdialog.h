@@ -4,10 +4,6 @@
 
 #include "dialogs/lumipaysettingsdialog.h"
 
-#include <memory>
-
-class Ui_Arcus2LumiPaySettingsDialog;
-
 /// The LumiPay settings of ARCUS2 terminals.
 class Arcus2LumiPaySettingsDialog : public LumiPaySettingsDialog
 {
@@ -15,10 +11,6 @@ class Arcus2LumiPaySettingsDialog : public LumiPaySettingsDialog
 
 public:
     Arcus2LumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
-    ~Arcus2LumiPaySettingsDialog() override;
-
-private:
-    std::unique_ptr<Ui_Arcus2LumiPaySettingsDialog> ui;
 };
 
 #endif

@@ -4,12 +4,11 @@
 #include "ui_arcus2ormasettingsdialog.h"
 
 Arcus2OrmaSettingsDialog::Arcus2OrmaSettingsDialog(QNoxSettings &document, QWidget *parent)
-    : OrmaSettingsDialog(document, parent), ui(new Ui_Arcus2OrmaSettingsDialog)
+    : OrmaSettingsDialog(document, parent)
 {
-    ui->setupUi(this);
-    fillForm(*ui);
+    Ui_Arcus2OrmaSettingsDialog ui;
+    ui.setupUi(this);
+    fillForm(ui);
     loadSettings();
     adjustSize();
 }
-
-Arcus2OrmaSettingsDialog::~Arcus2OrmaSettingsDialog() = default;

@@ -4,10 +4,6 @@
 
 #include "dialogs/ormasettingsdialog.h"
 
-#include <memory>
-
-class Ui_Arcus2OrmaSettingsDialog;
-
 /// The connection of ARCUS2 terminals.
 class Arcus2OrmaSettingsDialog : public OrmaSettingsDialog
 {
@@ -15,10 +11,6 @@ class Arcus2OrmaSettingsDialog : public OrmaSettingsDialog
 
 public:
     Arcus2OrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
-    ~Arcus2OrmaSettingsDialog() override;
-
-private:
-    std::unique_ptr<Ui_Arcus2OrmaSettingsDialog> ui;
 };
 
 #endif

@@ -3,10 +3,7 @@
 #define ARCUS2SETTINGSDIALOG_H
 
 #include "forms/settingsdialog.h"
-
-#include <memory>
-
-class Ui_Arcus2SettingsDialog;
+#include "ui_arcus2settingsdialog.h"
 
 /// The operation codes of the ARCUS2 protocol.
 class Arcus2SettingsDialog : public SettingsDialog
@@ -15,12 +12,11 @@ class Arcus2SettingsDialog : public SettingsDialog
 
 public:
     Arcus2SettingsDialog(QNoxSettings &settings, QWidget *parent);
-    ~Arcus2SettingsDialog() override;
 
     void checkState() override;
 
 private:
-    std::unique_ptr<Ui_Arcus2SettingsDialog> ui;
+    Ui_Arcus2SettingsDialog ui;
 };
 
 #endif

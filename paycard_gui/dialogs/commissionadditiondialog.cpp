@@ -4,7 +4,6 @@
 #include "common/qt_utils.h"
 #include "dialogs/driverconversation.h"
 #include "forms/mappinglist.h"
-#include "ui_commissionadditiondialog.h"
 #include "window/showntext.h"
 
 #include <cmath>
@@ -41,18 +40,16 @@ QString amount(double value)
 } // namespace
 
 CommissionAdditionDialog::CommissionAdditionDialog(IPayCard *object, QWidget *parent)
-    : FormDialog(parent), ui(new Ui_CommissionAdditionDialog), driver(object)
+    : FormDialog(parent), driver(object)
 {
-    ui->setupUi(this);
+    ui.setupUi(this);
     // One preview, once the list is whole. The doubled "м" is what the cashiers know.
-    ui->cmbCommissionAddition->blockSignals(true);
-    strToComboBox(ui->cmbCommissionAddition,
+    ui.cmbCommissionAddition->blockSignals(true);
+    strToComboBox(ui.cmbCommissionAddition,
                   numberedMapping(tr("%1:Коммиссия включена в сумму;%2:Коммиссия добавляется к сумме;"), 2), false);
-    ui->cmbCommissionAddition->blockSignals(false);
+    ui.cmbCommissionAddition->blockSignals(false);
     updatePreview();
 }
-
-CommissionAdditionDialog::~CommissionAdditionDialog() = default;
 
 void CommissionAdditionDialog::on_cmbCommissionAddition_currentIndexChanged(int /*index*/)
 {
@@ -79,12 +76,12 @@ void CommissionAdditionDialog::updatePreview()
     }
 
     const double charged = fixed ? rate : sum * rate / 100;
-    const double credited = cmbData(ui->cmbCommissionAddition) == IncludedInSum ? sum - charged : sum;
+    const double credited = cmbData(ui.cmbCommissionAddition) == IncludedInSum ? sum - charged : sum;
     const double credit = fround(credited, 2);
     const double commission = fround(charged, 2);
 
     // %4 and %5 are kept for markup that sets the credited amount off.
-    ShownText::show(ui->lbQuery,
+    ShownText::show(ui.lbQuery,
                     tr("Зачислить %4%1 р.%5 + комиссия %2 р. = %3 р.")
                         .arg(amount(credit), amount(commission), amount(credit + commission), QString(), QString()));
     checkState(credit, min, max);
@@ -113,19 +110,19 @@ void CommissionAdditionDialog::checkSum(double sum, double min, double max)
 
 void CommissionAdditionDialog::setState(bool ok, const QString &text)
 {
-    ui->pbtnOk->setEnabled(ok);
-    ui->errorLabel->setVisible(!ok);
-    ui->errorLabel->setError(text);
+    ui.pbtnOk->setEnabled(ok);
+    ui.errorLabel->setVisible(!ok);
+    ui.errorLabel->setError(text);
     adjustSize();
 }
 
 void CommissionAdditionDialog::on_pbtnOk_clicked()
 {
     // The key of the choice, moved up by one: 0 is for cancelled.
-    done(cmbData(ui->cmbCommissionAddition) + 1);
+    done(cmbData(ui.cmbCommissionAddition) + 1);
 }
 
 void CommissionAdditionDialog::on_pbtnCancel_clicked()
 {
-    done(0);
+    reject();
 }

@@ -4,10 +4,7 @@
 
 #include "common/qnoxpaycard.h"
 #include "forms/formdialog.h"
-
-#include <memory>
-
-class Ui_CommissionAdditionDialog;
+#include "ui_commissionadditiondialog.h"
 
 /// How the operator's commission is charged, with a preview of the amounts. exec() gives 0 when cancelled, 1
 /// for included in the sum, 2 for added to it.
@@ -18,7 +15,6 @@ class CommissionAdditionDialog : public FormDialog
 public:
     /// Throws DeviceNotFoundException without a driver.
     CommissionAdditionDialog(NOX::PayCard::IPayCard *driver, QWidget *parent);
-    ~CommissionAdditionDialog() override;
 
 private slots:
     void on_cmbCommissionAddition_currentIndexChanged(int index);
@@ -32,7 +28,7 @@ private:
     static void checkSum(double sum, double min, double max);
     void setState(bool ok, const QString &text);
 
-    std::unique_ptr<Ui_CommissionAdditionDialog> ui;
+    Ui_CommissionAdditionDialog ui;
     QNoxPaycard driver;
 };
 

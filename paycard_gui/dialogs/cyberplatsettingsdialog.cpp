@@ -2,7 +2,6 @@
 #include "dialogs/cyberplatsettingsdialog.h"
 
 #include "forms/formutils.h"
-#include "ui_cyberplatsettingsdialog.h"
 
 namespace {
 
@@ -31,39 +30,37 @@ SettingField textOrDefault(const QString &key, QLineEdit *edit, const QString &d
 } // namespace
 
 CyberPlatSettingsDialog::CyberPlatSettingsDialog(QNoxSettings &document, QWidget *parent)
-    : SettingsDialog(document, parent), ui(new Ui_CyberPlatSettingsDialog)
+    : SettingsDialog(document, parent)
 {
-    ui->setupUi(this);
+    ui.setupUi(this);
     alignLabels(this);
     setFields({
-        textOrDefault(UrlKey, ui->leURL, tr("https://payments.cyberplat.example/cgi-bin/es")),
-        textOrDefault(ProxyServerKey, ui->leProxyServer, tr("localhost")),
-        {KeyLoadPwdKey, ui->leKeyLoadPwd},
-        {CheckTimeoutKey, ui->spinCheckTimeout, 60},
-        {DealerCodeKey, ui->spinDealerCode},
-        {OperatorCodeKey, ui->spinOperatorCode},
-        {PointCodeKey, ui->spinPointCode},
-        {ProxyPortKey, ui->spinProxyPort, 8080},
-        {SerialKeyNumberKey, ui->spinSerialKeyNumber},
-        {UseProxyKey, ui->checkUseProxy},
+        textOrDefault(UrlKey, ui.leURL, tr("https://payments.cyberplat.example/cgi-bin/es")),
+        textOrDefault(ProxyServerKey, ui.leProxyServer, tr("localhost")),
+        {KeyLoadPwdKey, ui.leKeyLoadPwd},
+        {CheckTimeoutKey, ui.spinCheckTimeout, 60},
+        {DealerCodeKey, ui.spinDealerCode},
+        {OperatorCodeKey, ui.spinOperatorCode},
+        {PointCodeKey, ui.spinPointCode},
+        {ProxyPortKey, ui.spinProxyPort, 8080},
+        {SerialKeyNumberKey, ui.spinSerialKeyNumber},
+        {UseProxyKey, ui.checkUseProxy},
     });
     loadAndCheck();
-    on_checkUseProxy_toggled(ui->checkUseProxy->isChecked());
+    on_checkUseProxy_toggled(ui.checkUseProxy->isChecked());
 }
-
-CyberPlatSettingsDialog::~CyberPlatSettingsDialog() = default;
 
 void CyberPlatSettingsDialog::checkState()
 {
     check({
-        {ui->leURL->text().isEmpty(), tr("Не указан адрес сервера")},
-        {ui->checkUseProxy->isChecked() && ui->leProxyServer->text().isEmpty(), tr("Не указан адрес прокси-сервера")},
-        {ui->leKeyLoadPwd->text().isEmpty(), tr("Не указан пароль ключа")},
+        {ui.leURL->text().isEmpty(), tr("Не указан адрес сервера")},
+        {ui.checkUseProxy->isChecked() && ui.leProxyServer->text().isEmpty(), tr("Не указан адрес прокси-сервера")},
+        {ui.leKeyLoadPwd->text().isEmpty(), tr("Не указан пароль ключа")},
     });
 }
 
 void CyberPlatSettingsDialog::on_checkUseProxy_toggled(bool checked)
 {
-    ui->leProxyServer->setEnabled(checked);
-    ui->spinProxyPort->setEnabled(checked);
+    ui.leProxyServer->setEnabled(checked);
+    ui.spinProxyPort->setEnabled(checked);
 }

@@ -3,10 +3,7 @@
 #define CYBERPLATSETTINGSDIALOG_H
 
 #include "forms/settingsdialog.h"
-
-#include <memory>
-
-class Ui_CyberPlatSettingsDialog;
+#include "ui_cyberplatsettingsdialog.h"
 
 /// How the driver reaches the CyberPlat server, and how the register identifies itself to it.
 class CyberPlatSettingsDialog : public SettingsDialog
@@ -15,7 +12,6 @@ class CyberPlatSettingsDialog : public SettingsDialog
 
 public:
     CyberPlatSettingsDialog(QNoxSettings &settings, QWidget *parent);
-    ~CyberPlatSettingsDialog() override;
 
     void checkState() override;
 
@@ -23,7 +19,7 @@ private slots:
     void on_checkUseProxy_toggled(bool checked);
 
 private:
-    std::unique_ptr<Ui_CyberPlatSettingsDialog> ui;
+    Ui_CyberPlatSettingsDialog ui;
 };
 
 #endif

@@ -10,15 +10,14 @@ const QString TerminalIDKey = QString::fromWCharArray(L"TerminalID");
 } // namespace
 
 InpasLumiPaySettingsDialog::InpasLumiPaySettingsDialog(QNoxSettings &document, QWidget *parent)
-    : LumiPaySettingsDialog(document, parent), ui(new Ui_InpasLumiPaySettingsDialog)
+    : LumiPaySettingsDialog(document, parent)
 {
-    ui->setupUi(this);
+    Ui_InpasLumiPaySettingsDialog ui;
+    ui.setupUi(this);
     setFields({
-        modemMode(ui->cmbModemMode),
-        {TerminalIDKey, ui->leTerminalID},
+        modemMode(ui.cmbModemMode),
+        {TerminalIDKey, ui.leTerminalID},
     });
     loadSettings();
     adjustSize();
 }
-
-InpasLumiPaySettingsDialog::~InpasLumiPaySettingsDialog() = default;

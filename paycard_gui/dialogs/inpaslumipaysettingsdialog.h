@@ -4,10 +4,6 @@
 
 #include "dialogs/lumipaysettingsdialog.h"
 
-#include <memory>
-
-class Ui_InpasLumiPaySettingsDialog;
-
 /// The LumiPay settings of INPAS SmartSale terminals.
 class InpasLumiPaySettingsDialog : public LumiPaySettingsDialog
 {
@@ -15,10 +11,6 @@ class InpasLumiPaySettingsDialog : public LumiPaySettingsDialog
 
 public:
     InpasLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
-    ~InpasLumiPaySettingsDialog() override;
-
-private:
-    std::unique_ptr<Ui_InpasLumiPaySettingsDialog> ui;
 };
 
 #endif

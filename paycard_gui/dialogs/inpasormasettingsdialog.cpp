@@ -10,12 +10,11 @@ const QString TerminalIDKey = QString::fromWCharArray(L"TerminalID");
 } // namespace
 
 InpasOrmaSettingsDialog::InpasOrmaSettingsDialog(QNoxSettings &document, QWidget *parent)
-    : OrmaSettingsDialog(document, parent), ui(new Ui_InpasOrmaSettingsDialog)
+    : OrmaSettingsDialog(document, parent)
 {
-    ui->setupUi(this);
-    fillForm(*ui, {}, {{TerminalIDKey, ui->leTerminalID}});
+    Ui_InpasOrmaSettingsDialog ui;
+    ui.setupUi(this);
+    fillForm(ui, {}, {{TerminalIDKey, ui.leTerminalID}});
     loadSettings();
     adjustSize();
 }
-
-InpasOrmaSettingsDialog::~InpasOrmaSettingsDialog() = default;

@@ -4,10 +4,6 @@
 
 #include "dialogs/ormasettingsdialog.h"
 
-#include <memory>
-
-class Ui_InpasOrmaSettingsDialog;
-
 /// The connection of INPAS SmartSale terminals.
 class InpasOrmaSettingsDialog : public OrmaSettingsDialog
 {
@@ -15,10 +11,6 @@ class InpasOrmaSettingsDialog : public OrmaSettingsDialog
 
 public:
     InpasOrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
-    ~InpasOrmaSettingsDialog() override;
-
-private:
-    std::unique_ptr<Ui_InpasOrmaSettingsDialog> ui;
 };
 
 #endif

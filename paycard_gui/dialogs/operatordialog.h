@@ -3,10 +3,7 @@
 #define OPERATORDIALOG_H
 
 #include "forms/settingsdialog.h"
-
-#include <memory>
-
-class Ui_OperatorDialog;
+#include "ui_operatordialog.h"
 
 /// One service operator: edits its record.
 class OperatorDialog : public SettingsDialog
@@ -15,14 +12,13 @@ class OperatorDialog : public SettingsDialog
 
 public:
     OperatorDialog(QNoxSettings &record, QWidget *parent);
-    ~OperatorDialog() override;
 
     void checkState() override;
 
 private:
     void fillChoices();
 
-    std::unique_ptr<Ui_OperatorDialog> ui;
+    Ui_OperatorDialog ui;
 };
 
 #endif

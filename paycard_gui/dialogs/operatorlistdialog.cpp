@@ -5,7 +5,6 @@
 #include "dialogs/operatordialog.h"
 #include "forms/operatorrecords.h"
 #include "toolkit/windows.h"
-#include "ui_operatorlistdialog.h"
 #include "window/scopeddialog.h"
 #include "window/showntext.h"
 
@@ -17,19 +16,16 @@ const int Lines = 18;
 
 } // namespace
 
-OperatorListDialog::OperatorListDialog(QNoxSettings &document, QWidget *parent)
-    : FormDialog(parent), ui(new Ui_OperatorListDialog), settings(document)
+OperatorListDialog::OperatorListDialog(QNoxSettings &document, QWidget *parent) : FormDialog(parent), settings(document)
 {
-    ui->setupUi(this);
+    ui.setupUi(this);
     // The list itself asks for a size that knows nothing of the font. It leaves room for the buttons on a small screen.
     const QSize wanted(fontMetrics().averageCharWidth() * NameWidth, fontMetrics().height() * Lines);
-    ui->lwOperators->setMinimumSize(wanted.boundedTo(Toolkit::availableGeometry(*this).size() / 2));
+    ui.lwOperators->setMinimumSize(wanted.boundedTo(Toolkit::availableGeometry(*this).size() / 2));
     loadSettings();
     enableEditing(false);
     adjustSize();
 }
-
-OperatorListDialog::~OperatorListDialog() = default;
 
 void OperatorListDialog::loadSettings()
 {
@@ -42,10 +38,10 @@ void OperatorListDialog::loadSettings()
 
 void OperatorListDialog::saveSettings()
 {
-    const int count = ui->lwOperators->count();
+    const int count = ui.lwOperators->count();
     settings.set(OperatorRecords::CountKey, count);
     for (int i = 0; i < count; ++i) {
-        settings.set(OperatorRecords::key(i), ui->lwOperators->item(i)->data(Qt::UserRole));
+        settings.set(OperatorRecords::key(i), ui.lwOperators->item(i)->data(Qt::UserRole));
     }
 }
 
@@ -60,7 +56,7 @@ QListWidgetItem *OperatorListDialog::add(const QNoxSettings &record)
 {
     QListWidgetItem *item = new QListWidgetItem;
     setRecord(item, record);
-    ui->lwOperators->addItem(item);
+    ui.lwOperators->addItem(item);
     return item;
 }
 
@@ -71,7 +67,7 @@ void OperatorListDialog::setRecord(QListWidgetItem *item, const QNoxSettings &re
     const QString shown = ShownText::cut(name);
     // Measuring takes its time, and a short one need not be measured.
     const bool fits =
-        shown.size() < NameWidth / 2 || fontMetrics().boundingRect(shown).width() < ui->lwOperators->minimumWidth();
+        shown.size() < NameWidth / 2 || fontMetrics().boundingRect(shown).width() < ui.lwOperators->minimumWidth();
     item->setText(shown);
     item->setToolTip(ShownText::toolTip(name, fits ? shown : QString()));
     item->setData(Qt::UserRole, record.toXml(0));
@@ -79,8 +75,8 @@ void OperatorListDialog::setRecord(QListWidgetItem *item, const QNoxSettings &re
 
 void OperatorListDialog::enableEditing(bool enabled)
 {
-    ui->pbtnEdit->setEnabled(enabled);
-    ui->pbtnDelete->setEnabled(enabled);
+    ui.pbtnEdit->setEnabled(enabled);
+    ui.pbtnDelete->setEnabled(enabled);
 }
 
 void OperatorListDialog::on_pbtnAdd_clicked()
@@ -88,7 +84,7 @@ void OperatorListDialog::on_pbtnAdd_clicked()
     guarded([this] {
         QNoxSettings record;
         if (edit(record)) {
-            ui->lwOperators->setCurrentItem(add(record));
+            ui.lwOperators->setCurrentItem(add(record));
             enableEditing(true);
         }
     });
@@ -96,7 +92,7 @@ void OperatorListDialog::on_pbtnAdd_clicked()
 
 void OperatorListDialog::on_pbtnEdit_clicked()
 {
-    on_lwOperators_itemDoubleClicked(ui->lwOperators->currentItem());
+    on_lwOperators_itemDoubleClicked(ui.lwOperators->currentItem());
 }
 
 void OperatorListDialog::on_lwOperators_itemDoubleClicked(QListWidgetItem *item)
@@ -114,11 +110,11 @@ void OperatorListDialog::on_lwOperators_itemDoubleClicked(QListWidgetItem *item)
 
 void OperatorListDialog::on_pbtnDelete_clicked()
 {
-    delete ui->lwOperators->currentItem();
-    const bool empty = ui->lwOperators->count() == 0;
-    ui->pbtnDelete->setEnabled(!empty);
+    delete ui.lwOperators->currentItem();
+    const bool empty = ui.lwOperators->count() == 0;
+    ui.pbtnDelete->setEnabled(!empty);
     // The wrong way round on purpose; the next change of the selection puts it right.
-    ui->pbtnEdit->setEnabled(empty);
+    ui.pbtnEdit->setEnabled(empty);
 }
 
 void OperatorListDialog::on_pbtnOk_clicked()
@@ -131,5 +127,5 @@ void OperatorListDialog::on_pbtnOk_clicked()
 
 void OperatorListDialog::on_lwOperators_itemSelectionChanged()
 {
-    enableEditing(!ui->lwOperators->selectedItems().isEmpty());
+    enableEditing(!ui.lwOperators->selectedItems().isEmpty());
 }

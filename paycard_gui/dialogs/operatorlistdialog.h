@@ -3,12 +3,10 @@
 #define OPERATORLISTDIALOG_H
 
 #include "forms/formdialog.h"
-
-#include <memory>
+#include "ui_operatorlistdialog.h"
 
 class QListWidgetItem;
 class QNoxSettings;
-class Ui_OperatorListDialog;
 
 /// The service operators: adds, edits and deletes their records.
 ///
@@ -20,7 +18,6 @@ class OperatorListDialog : public FormDialog
 
 public:
     OperatorListDialog(QNoxSettings &settings, QWidget *parent);
-    ~OperatorListDialog() override;
 
     void loadSettings();
     void saveSettings();
@@ -39,7 +36,7 @@ private:
     void setRecord(QListWidgetItem *item, const QNoxSettings &record);
     void enableEditing(bool enabled);
 
-    std::unique_ptr<Ui_OperatorListDialog> ui;
+    Ui_OperatorListDialog ui;
     QNoxSettings &settings;
 };
 

@@ -2,6 +2,7 @@
 #include "dialogs/paymentconfirmation.h"
 
 #include "common/qnoxpaycard.h"
+#include "dialogs/protocols.h"
 #include "toolkit/texts.h"
 #include "window/showntext.h"
 
@@ -15,9 +16,7 @@ namespace {
 
 const int OperatorNameLength = 64;
 
-/// The operation codes for which the reference of the earlier operation is shown: from a refund (1) to
-/// `last`.
-enum LastReferencedOperation { NoReference = 0, Refund = 1, RefundCancellation = 3 };
+enum Operation { Refund = 1, RefundCancellation = 3 };
 
 QString operationStr(int code)
 {
@@ -48,7 +47,8 @@ QString line(const QString &pattern, const QString &text)
     return text.isEmpty() ? QString() : pattern.arg(Toolkit::escaped(ShownText::cut(text)));
 }
 
-QString cardPaymentText(const QNoxPaycard &driver, LastReferencedOperation last)
+/// With the reference of the earlier operation for those from a refund to `last`.
+QString cardPaymentText(const QNoxPaycard &driver, int last)
 {
     const QString sum = amount(driver.getDouble(&IPayCard::getSum));
     const int operation = driver.getInt(&IPayCard::getOperation);
@@ -80,24 +80,17 @@ QString servicePaymentText(const QNoxPaycard &driver)
 QString paymentConfirmationText(const QNoxPaycard &driver)
 {
     // A protocol that is not a number counts as 0.
-    switch (driver.getBuff(&IPayCard::getSettingValue, L"Protocol").toInt()) {
-    case 0:
-    case 7:
-    case 8:
-    case 12:
-        return cardPaymentText(driver, RefundCancellation);
-    case 6:
-    case 9:
-    case 13:
+    switch (protocol(driver.getBuff(&IPayCard::getSettingValue, L"Protocol").toInt()).question) {
+    case Protocol::CardPayment:
+        return cardPaymentText(driver, 0);
+    case Protocol::CardPaymentOrRefund:
         return cardPaymentText(driver, Refund);
-    case 4:
-    case 10:
-    case 11:
-        return cardPaymentText(driver, NoReference);
-    case 2:
+    case Protocol::CardPaymentOrUndone:
+        return cardPaymentText(driver, RefundCancellation);
+    case Protocol::ServicePayment:
         return servicePaymentText(driver);
-    default:
-        // Confirmed without data, on purpose.
-        return QString();
+    case Protocol::WithoutData:
+        break;
     }
+    return QString();
 }

@@ -3,27 +3,16 @@
 
 #include "common/dialog_about.h"
 #include "common/qt_utils.h"
-#include "dialogs/arcus2lumipaysettingsdialog.h"
-#include "dialogs/arcus2ormasettingsdialog.h"
-#include "dialogs/arcus2settingsdialog.h"
-#include "dialogs/cyberplatsettingsdialog.h"
 #include "dialogs/driverconversation.h"
-#include "dialogs/inpaslumipaysettingsdialog.h"
-#include "dialogs/inpasormasettingsdialog.h"
 #include "dialogs/operatorlistdialog.h"
-#include "dialogs/sberbanklumipaysettingsdialog.h"
-#include "dialogs/sberbankormasettingsdialog.h"
 #include "dialogs/slipdialog.h"
 #include "text/settingsreader.h"
 #include "toolkit/texts.h"
-#include "ui_paysystemdialog.h"
 #include "window/scopeddialog.h"
 #include "window/showntext.h"
 
 #include <QCloseEvent>
 #include <QDir>
-
-#include <iterator>
 
 using NOX::PayCard::IPayCard;
 
@@ -38,40 +27,6 @@ const int DefaultProtocol = 2;
 const int DocumentVersion = 2;
 
 } // namespace
-
-/// What the properties offer for a protocol.
-struct PaySystemDialog::Protocol
-{
-    bool directory;
-    bool timeout;
-    bool slip;
-    bool operators;
-    /// Opens the protocol's own settings; null where it has none.
-    void (PaySystemDialog::*editParameters)();
-};
-
-const PaySystemDialog::Protocol &PaySystemDialog::protocol(int number)
-{
-    static const Protocol unknown = {false, false, false, false, nullptr};
-    static const Protocol protocols[] = {
-        // directory, time-out, slip, operators, parameters
-        /* 0 */ {true, true, true, false, nullptr},
-        /* 1 */ unknown,
-        /* 2 */ {true, true, true, true, &PaySystemDialog::edit<CyberPlatSettingsDialog>},
-        /* 3 */ unknown,
-        /* 4 */ {true, false, true, false, nullptr},
-        /* 5 */ unknown,
-        /* 6 */ {true, true, true, false, &PaySystemDialog::edit<Arcus2SettingsDialog>},
-        /* 7 */ {true, true, true, false, nullptr},
-        /* 8 */ {true, false, true, false, &PaySystemDialog::edit<InpasLumiPaySettingsDialog>},
-        /* 9 */ {true, false, true, false, &PaySystemDialog::edit<Arcus2LumiPaySettingsDialog>},
-        /* 10 */ {true, false, true, false, &PaySystemDialog::edit<SberbankLumiPaySettingsDialog>},
-        /* 11 */ {true, false, true, false, &PaySystemDialog::edit<SberbankOrmaSettingsDialog>},
-        /* 12 */ {true, false, true, false, &PaySystemDialog::edit<InpasOrmaSettingsDialog>},
-        /* 13 */ {true, false, true, false, &PaySystemDialog::edit<Arcus2OrmaSettingsDialog>},
-    };
-    return number >= 0 && number < static_cast<int>(std::size(protocols)) ? protocols[number] : unknown;
-}
 
 PaySystemDialog::PropertiesShown::PropertiesShown(const QNoxPaycard &wrapper) : driver(wrapper)
 {
@@ -98,21 +53,19 @@ void PaySystemDialog::PropertiesShown::end()
 }
 
 PaySystemDialog::PaySystemDialog(IPayCard *object, QWidget *parent)
-    : FormDialog(parent), ui(new Ui_PaySystemDialog), driver(object), propertiesShown(driver)
+    : FormDialog(parent), driver(object), propertiesShown(driver)
 {
-    ui->setupUi(this);
-    connect(ui->lePathACDialog, SIGNAL(textChanged(QString)), SLOT(checkState()));
+    ui.setupUi(this);
+    connect(ui.lePathACDialog, SIGNAL(textChanged(QString)), SLOT(checkState()));
     fields = {
-        {ProtocolKey, ui->cmbProtocol, DefaultProtocol},
-        {PathACKey, ui->lePathACDialog},
-        {TimeoutKey, ui->spinTimeout},
+        {ProtocolKey, ui.cmbProtocol, DefaultProtocol},
+        {PathACKey, ui.lePathACDialog},
+        {TimeoutKey, ui.spinTimeout},
     };
-    on_cmbProtocol_currentIndexChanged(ui->cmbProtocol->currentIndex());
+    on_cmbProtocol_currentIndexChanged(ui.cmbProtocol->currentIndex());
     loadSettings();
     adjustSize();
 }
-
-PaySystemDialog::~PaySystemDialog() = default;
 
 int PaySystemDialog::exec()
 {
@@ -126,7 +79,7 @@ int PaySystemDialog::exec()
 
 void PaySystemDialog::setError(const QString &text)
 {
-    ui->lbError->setError(text);
+    ui.lbError->setError(text);
 }
 
 void PaySystemDialog::resetError()
@@ -144,8 +97,8 @@ void PaySystemDialog::loadSettings()
         resetError();
     }
     const std::wstring protocols = driver.getWhole(&IPayCard::getSettingChoices, ProtocolKey.toStdWString().c_str());
-    strToComboBox(ui->cmbProtocol, QString::fromStdWString(protocols), false);
-    ShownText::cutItems(ui->cmbProtocol);
+    strToComboBox(ui.cmbProtocol, QString::fromStdWString(protocols), false);
+    ShownText::cutItems(ui.cmbProtocol);
     loadFields(fields, settings);
 }
 
@@ -186,14 +139,12 @@ void PaySystemDialog::reportingFailure(Action action)
     });
 }
 
-/// Opens a sub-dialog on a copy of the settings, which replaces them only if the sub-dialog is accepted.
-template <class Dialog>
-void PaySystemDialog::edit()
+/// Has a sub-dialog edit a copy of the settings, which replaces them only if the sub-dialog is accepted.
+void PaySystemDialog::edit(Protocol::EditSettings runDialog)
 {
-    guarded([this] {
+    guarded([this, runDialog] {
         QNoxSettings copy = settings;
-        const ScopedDialog<Dialog> dialog(copy, this);
-        if (dialog->exec() == Accepted) {
+        if (runDialog(copy, this) == Accepted) {
             settings = copy;
         }
     });
@@ -201,20 +152,20 @@ void PaySystemDialog::edit()
 
 void PaySystemDialog::on_pbtnSlip_clicked()
 {
-    edit<SlipDialog>();
+    edit(runOn<SlipDialog>);
 }
 
 void PaySystemDialog::on_pbtnSettingsButton_clicked()
 {
-    if (const auto editParameters = protocol(cmbData(ui->cmbProtocol)).editParameters) {
-        (this->*editParameters)();
+    if (const Protocol::EditSettings editParameters = protocol(cmbData(ui.cmbProtocol)).editParameters) {
+        edit(editParameters);
     }
 }
 
 void PaySystemDialog::on_pbtnOperators_clicked()
 {
-    if (protocol(cmbData(ui->cmbProtocol)).operators) {
-        edit<OperatorListDialog>();
+    if (protocol(cmbData(ui.cmbProtocol)).operators) {
+        edit(runOn<OperatorListDialog>);
     }
 }
 
@@ -222,28 +173,28 @@ void PaySystemDialog::on_pbtnPathACDialog_clicked()
 {
     const QPointer<PaySystemDialog> self(this);
     const QString path = NoHelpButtonFileDialog::getExistingDirectory(
-        this, tr("Укажите каталог обмена с АС"), ui->lePathACDialog->text(), QFileDialog::ShowDirsOnly);
+        this, tr("Укажите каталог обмена с АС"), ui.lePathACDialog->text(), QFileDialog::ShowDirsOnly);
     if (self && !path.isEmpty()) {
-        ui->lePathACDialog->setText(path);
+        ui.lePathACDialog->setText(path);
     }
 }
 
 void PaySystemDialog::on_cmbProtocol_currentIndexChanged(int /*index*/)
 {
-    const Protocol &current = protocol(cmbData(ui->cmbProtocol));
-    ui->lePathACDialog->setEnabled(current.directory);
-    ui->pbtnPathACDialog->setEnabled(current.directory);
-    ui->spinTimeout->setEnabled(current.timeout);
-    ui->pbtnSettingsButton->setEnabled(current.editParameters != nullptr);
-    ui->pbtnOperators->setEnabled(current.operators);
-    ui->pbtnSlip->setEnabled(current.slip);
+    const Protocol &current = protocol(cmbData(ui.cmbProtocol));
+    ui.lePathACDialog->setEnabled(current.directory);
+    ui.pbtnPathACDialog->setEnabled(current.directory);
+    ui.spinTimeout->setEnabled(current.timeout);
+    ui.pbtnSettingsButton->setEnabled(current.editParameters != nullptr);
+    ui.pbtnOperators->setEnabled(current.operators);
+    ui.pbtnSlip->setEnabled(current.slip);
 }
 
 /// The directory must exist for every protocol. The empty path is the working directory and passes.
 void PaySystemDialog::checkState()
 {
-    const bool exists = QDir(ui->lePathACDialog->text()).exists();
-    ui->pbtnOk->setEnabled(exists);
+    const bool exists = QDir(ui.lePathACDialog->text()).exists();
+    ui.pbtnOk->setEnabled(exists);
     if (exists) {
         resetError();
     } else {
@@ -263,18 +214,13 @@ void PaySystemDialog::on_pbtnOk_clicked()
 }
 
 /// The driver's document is rewritten on this way out, too, even when nothing was changed.
-void PaySystemDialog::on_pbtnCancel_clicked()
+void PaySystemDialog::reject()
 {
     reportingFailure([this] {
         if (writeToDriver(textAsLoaded())) {
             FormDialog::reject();
         }
     });
-}
-
-void PaySystemDialog::reject()
-{
-    on_pbtnCancel_clicked();
 }
 
 /// Closing the window cancels, too, but always closes it: a driver that refuses its own document must not
@@ -303,4 +249,9 @@ void PaySystemDialog::on_pbtnAbout_clicked()
             about->exec();
         }
     });
+}
+
+void PaySystemDialog::on_pbtnCancel_clicked()
+{
+    reject();
 }

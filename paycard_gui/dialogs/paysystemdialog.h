@@ -4,13 +4,12 @@
 
 #include "common/qnoxpaycard.h"
 #include "common/qnoxsettings.h"
+#include "dialogs/protocols.h"
 #include "forms/formdialog.h"
 #include "forms/settingfields.h"
+#include "ui_paysystemdialog.h"
 
-#include <memory>
 #include <string>
-
-class Ui_PaySystemDialog;
 
 /// The properties of the payment system. Reads the driver's settings document, edits it together with its
 /// sub-dialogs, and writes it back: edited on OK, as it was read on Cancel. A document that cannot be read is
@@ -23,7 +22,6 @@ public:
     /// Throws DeviceNotFoundException without a driver and Exception when the driver fails. The driver may delete
     /// the parent meanwhile: one that the host gave belongs to the dialog once it is whole.
     PaySystemDialog(NOX::PayCard::IPayCard *driver, QWidget *parent);
-    ~PaySystemDialog() override;
 
     /// Also throws when the driver refuses to be told that the properties are closed.
     int exec() PAYCARD_OVERRIDES_EXEC;
@@ -34,7 +32,7 @@ public:
     void saveSettings();
 
 public slots:
-    /// Cancels, like the button: the Escape key comes here.
+    /// Cancels: the button and the Escape key come here.
     void reject() override;
 
 protected:
@@ -68,17 +66,13 @@ private:
         bool shown = true;
     };
 
-    struct Protocol;
-    static const Protocol &protocol(int number);
-
-    template <class Dialog>
-    void edit();
+    void edit(Protocol::EditSettings runDialog);
     template <class Action>
     void reportingFailure(Action action);
     std::wstring textAsLoaded() const;
     bool writeToDriver(std::wstring xml);
 
-    std::unique_ptr<Ui_PaySystemDialog> ui;
+    Ui_PaySystemDialog ui;
     QNoxPaycard driver;
     /// The driver's document.
     std::wstring loadedXml;

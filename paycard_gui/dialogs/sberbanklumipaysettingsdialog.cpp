@@ -4,15 +4,14 @@
 #include "ui_sberbanklumipaysettingsdialog.h"
 
 SberbankLumiPaySettingsDialog::SberbankLumiPaySettingsDialog(QNoxSettings &document, QWidget *parent)
-    : LumiPaySettingsDialog(document, parent), ui(new Ui_SberbankLumiPaySettingsDialog)
+    : LumiPaySettingsDialog(document, parent)
 {
     // The window has the ARCUS2 wording for its title on purpose.
-    ui->setupUi(this);
+    Ui_SberbankLumiPaySettingsDialog ui;
+    ui.setupUi(this);
     setFields({
-        modemMode(ui->cmbModemMode),
+        modemMode(ui.cmbModemMode),
     });
     loadSettings();
     adjustSize();
 }
-
-SberbankLumiPaySettingsDialog::~SberbankLumiPaySettingsDialog() = default;

@@ -4,10 +4,6 @@
 
 #include "dialogs/lumipaysettingsdialog.h"
 
-#include <memory>
-
-class Ui_SberbankLumiPaySettingsDialog;
-
 /// The LumiPay settings of Sberbank terminals.
 class SberbankLumiPaySettingsDialog : public LumiPaySettingsDialog
 {
@@ -15,10 +11,6 @@ class SberbankLumiPaySettingsDialog : public LumiPaySettingsDialog
 
 public:
     SberbankLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
-    ~SberbankLumiPaySettingsDialog() override;
-
-private:
-    std::unique_ptr<Ui_SberbankLumiPaySettingsDialog> ui;
 };
 
 #endif

@@ -4,12 +4,11 @@
 #include "ui_sberbankormasettingsdialog.h"
 
 SberbankOrmaSettingsDialog::SberbankOrmaSettingsDialog(QNoxSettings &document, QWidget *parent)
-    : OrmaSettingsDialog(document, parent), ui(new Ui_SberbankOrmaSettingsDialog)
+    : OrmaSettingsDialog(document, parent)
 {
-    ui->setupUi(this);
-    fillForm(*ui, {network(ui->pageNetSettings, ui->leNetAddress, ui->spinNetPort)});
+    Ui_SberbankOrmaSettingsDialog ui;
+    ui.setupUi(this);
+    fillForm(ui, {network(ui.pageNetSettings, ui.leNetAddress, ui.spinNetPort)});
     loadSettings();
     adjustSize();
 }
-
-SberbankOrmaSettingsDialog::~SberbankOrmaSettingsDialog() = default;

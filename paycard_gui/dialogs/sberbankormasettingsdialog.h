@@ -4,10 +4,6 @@
 
 #include "dialogs/ormasettingsdialog.h"
 
-#include <memory>
-
-class Ui_SberbankOrmaSettingsDialog;
-
 /// The connection of Sberbank terminals.
 class SberbankOrmaSettingsDialog : public OrmaSettingsDialog
 {
@@ -15,10 +11,6 @@ class SberbankOrmaSettingsDialog : public OrmaSettingsDialog
 
 public:
     SberbankOrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
-    ~SberbankOrmaSettingsDialog() override;
-
-private:
-    std::unique_ptr<Ui_SberbankOrmaSettingsDialog> ui;
 };
 
 #endif

@@ -4,10 +4,7 @@
 
 #include "common/qnoxpaycard.h"
 #include "forms/formdialog.h"
-
-#include <memory>
-
-class Ui_SelectOperatorDialog;
+#include "ui_selectoperatordialog.h"
 
 /// Which service operator is being paid. The driver learns the index of the one that is accepted.
 class SelectOperatorDialog : public FormDialog
@@ -17,14 +14,13 @@ class SelectOperatorDialog : public FormDialog
 public:
     /// Throws DeviceNotFoundException without a driver.
     SelectOperatorDialog(NOX::PayCard::IPayCard *driver, QWidget *parent);
-    ~SelectOperatorDialog() override;
 
 private slots:
     void on_pbtnOk_clicked();
     void on_pbtnCancel_clicked();
 
 private:
-    std::unique_ptr<Ui_SelectOperatorDialog> ui;
+    Ui_SelectOperatorDialog ui;
     QNoxPaycard driver;
 };
 

@@ -2,7 +2,6 @@
 #include "dialogs/slipdialog.h"
 
 #include "common/qnoxsettings.h"
-#include "ui_slipdialog.h"
 
 #include <QTextCursor>
 
@@ -43,26 +42,23 @@ SettingField centredField(const QString &key, QTextEdit *edit)
 
 } // namespace
 
-SlipDialog::SlipDialog(QNoxSettings &document, QWidget *parent)
-    : SettingsDialog(document, parent), ui(new Ui_SlipDialog)
+SlipDialog::SlipDialog(QNoxSettings &document, QWidget *parent) : SettingsDialog(document, parent)
 {
-    ui->setupUi(this);
+    ui.setupUi(this);
     setFields({
-        centredField(HeaderKey, ui->teHeader),
-        centredField(FooterKey, ui->teFooter),
-        {HideCardKey, ui->checkHideCard},
+        centredField(HeaderKey, ui.teHeader),
+        centredField(FooterKey, ui.teFooter),
+        {HideCardKey, ui.checkHideCard},
     });
     SlipDialog::loadSettings();
 }
-
-SlipDialog::~SlipDialog() = default;
 
 void SlipDialog::loadSettings()
 {
     loadFields(fields, QNoxSettings(settings.get(SlipKey).toString()));
     // The card's number is always masked: whatever is stored, the box is checked and stays so.
-    ui->checkHideCard->setChecked(true);
-    ui->checkHideCard->setEnabled(false);
+    ui.checkHideCard->setChecked(true);
+    ui.checkHideCard->setEnabled(false);
 }
 
 void SlipDialog::saveSettings()

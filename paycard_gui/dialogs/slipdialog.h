@@ -3,10 +3,7 @@
 #define SLIPDIALOG_H
 
 #include "forms/settingsdialog.h"
-
-#include <memory>
-
-class Ui_SlipDialog;
+#include "ui_slipdialog.h"
 
 /// The texts at the head and the foot of the card slip, kept in a document of their own under one key.
 class SlipDialog : public SettingsDialog
@@ -15,13 +12,12 @@ class SlipDialog : public SettingsDialog
 
 public:
     SlipDialog(QNoxSettings &settings, QWidget *parent);
-    ~SlipDialog() override;
 
     void loadSettings() override;
     void saveSettings() override;
 
 private:
-    std::unique_ptr<Ui_SlipDialog> ui;
+    Ui_SlipDialog ui;
 };
 
 #endif

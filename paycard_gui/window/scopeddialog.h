@@ -34,4 +34,12 @@ private:
     QPointer<Dialog> dialog;
 };
 
+/// Runs a dialog modally on a document; gives its dialog code.
+template <class Dialog, class Document>
+int runOn(Document &document, QWidget *parent)
+{
+    const ScopedDialog<Dialog> dialog(document, parent);
+    return dialog->exec();
+}
+
 #endif

@@ -11,7 +11,6 @@
 #include <QString>
 
 #include <exception>
-#include <string>
 
 /// A failure with a text for people.
 class PAYCARD_EXPORT Exception : public std::exception
@@ -57,10 +56,6 @@ struct Operation
 
 /// The text up to its closing zero, or a null text. `size` is that of the first buffer.
 PAYCARD_EXPORT QString read(int size, const Operation &operation);
-/// The same in the driver's own characters. `result` gets the driver's last answer, and `isWhole` is false when the
-/// text did not fit a second time and when its length is incredible.
-PAYCARD_EXPORT std::wstring readWhole(int size, const Operation &operation, int &result, bool &isWhole);
-
 template <class Get>
 Operation operation(const Get &get)
 {
@@ -107,21 +102,11 @@ public:
     /// The same for the text that belongs to a name, such as a setting's value.
     QString getBuff(NamedTextGetter getter, const wchar_t *name) const;
 
-    /// The same for callers that cannot do with less than the driver's whole text, in its own characters: throws
-    /// an Exception when the getter fails, at first or when it is asked once more, when the text does not fit
-    /// then either, and when its length is incredible.
-    std::wstring getWhole(TextGetter getter) const;
-    /// The same for the text that belongs to a name.
-    std::wstring getWhole(NamedTextGetter getter, const wchar_t *name) const;
-
     /// Takes the result of a driver's operation and returns it. Throws an Exception with the driver's own
     /// "[code] text (detail)" when the result is negative and the driver has a result code.
     int raiseError(int result) const;
 
 private:
-    template <class Get>
-    std::wstring readWhole(const Get &get) const;
-
     T *driver;
     // Never used here; part of the layout that the family's modules share.
     QFutureInterface<int> future;
@@ -198,34 +183,6 @@ QString QNoxInterface<T>::getBuff(NamedTextGetter getter, const wchar_t *name) c
     T *object = nox();
     const auto get = [=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); };
     return QNoxText::read(defaultBufferSize(), QNoxText::operation(get));
-}
-
-template <class T>
-std::wstring QNoxInterface<T>::getWhole(TextGetter getter) const
-{
-    T *object = nox();
-    return readWhole([=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); });
-}
-
-template <class T>
-std::wstring QNoxInterface<T>::getWhole(NamedTextGetter getter, const wchar_t *name) const
-{
-    T *object = nox();
-    return readWhole([=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); });
-}
-
-template <class T>
-template <class Get>
-std::wstring QNoxInterface<T>::readWhole(const Get &get) const
-{
-    int result = 0;
-    bool isWhole = false;
-    const std::wstring text = QNoxText::readWhole(defaultBufferSize(), QNoxText::operation(get), result, isWhole);
-    raiseError(result);
-    if (!isWhole) {
-        throw Exception(QObject::tr("Драйвер не дал текст целиком"));
-    }
-    return text;
 }
 
 template <class T>

@@ -13,11 +13,37 @@ class LumiPaySettingsDialog : public SettingsDialog
 
 public:
     using SettingsDialog::SettingsDialog;
-    ~LumiPaySettingsDialog() override;
 
 protected:
-    /// Fills the combo box with the ways there are; to be done before the setting is loaded.
-    static SettingField modemMode(QComboBox *combo);
+    /// Has the combo box offer the ways there are. `others` are the settings that only this form has.
+    void fillForm(QComboBox *modemMode, const SettingFields &others = {});
+};
+
+/// The LumiPay settings of ARCUS2 terminals.
+class Arcus2LumiPaySettingsDialog : public LumiPaySettingsDialog
+{
+    Q_OBJECT
+
+public:
+    Arcus2LumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
+};
+
+/// The LumiPay settings of INPAS SmartSale terminals.
+class InpasLumiPaySettingsDialog : public LumiPaySettingsDialog
+{
+    Q_OBJECT
+
+public:
+    InpasLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
+};
+
+/// The LumiPay settings of Sberbank terminals.
+class SberbankLumiPaySettingsDialog : public LumiPaySettingsDialog
+{
+    Q_OBJECT
+
+public:
+    SberbankLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
 };
 
 #endif

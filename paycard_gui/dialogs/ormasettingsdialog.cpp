@@ -4,15 +4,15 @@
 #include "common/qnoxsettings.h"
 #include "common/qt_utils.h"
 #include "forms/formutils.h"
-
-#include <QComboBox>
-#include <QLineEdit>
-#include <QStackedWidget>
+#include "ui_arcus2ormasettingsdialog.h"
+#include "ui_inpasormasettingsdialog.h"
+#include "ui_sberbankormasettingsdialog.h"
 
 #include <utility>
 
 namespace {
 
+const QString TerminalIDKey = QString::fromWCharArray(L"TerminalID");
 const QString PortKey = QString::fromWCharArray(L"Port");
 const QString BaudrateKey = QString::fromWCharArray(L"BaudRate");
 const QString TTYNameKey = QString::fromWCharArray(L"TTYSuffix");
@@ -65,8 +65,6 @@ SettingField hexadecimal(const QString &key, QLineEdit *edit)
 
 } // namespace
 
-OrmaSettingsDialog::~OrmaSettingsDialog() = default;
-
 OrmaSettingsDialog::PortKind OrmaSettingsDialog::network(QWidget *page, QLineEdit *address, QSpinBox *port)
 {
     return {PortTcpKey, choice(PortTcpKey, tr("TCP/IP")), page, {{IPAddressKey, address}, {IPPortKey, port}}};
@@ -102,6 +100,8 @@ void OrmaSettingsDialog::fillForm(QComboBox *ports, QStackedWidget *pages, const
     strToComboBox(portBox, choices, false);
     ownFields.emplace_back(PortKey, portBox, QString::fromLatin1("0"));
     setFields(std::move(ownFields));
+    loadSettings();
+    adjustSize();
 }
 
 void OrmaSettingsDialog::loadSettings()
@@ -132,4 +132,28 @@ const OrmaSettingsDialog::PortKind &OrmaSettingsDialog::currentKind() const
 void OrmaSettingsDialog::on_cmbPort_currentIndexChanged(int /*index*/)
 {
     pageStack->setCurrentWidget(currentKind().page);
+}
+
+Arcus2OrmaSettingsDialog::Arcus2OrmaSettingsDialog(QNoxSettings &document, QWidget *parent)
+    : OrmaSettingsDialog(document, parent)
+{
+    Ui_Arcus2OrmaSettingsDialog ui;
+    ui.setupUi(this);
+    fillForm(ui);
+}
+
+InpasOrmaSettingsDialog::InpasOrmaSettingsDialog(QNoxSettings &document, QWidget *parent)
+    : OrmaSettingsDialog(document, parent)
+{
+    Ui_InpasOrmaSettingsDialog ui;
+    ui.setupUi(this);
+    fillForm(ui, {}, {{TerminalIDKey, ui.leTerminalID}});
+}
+
+SberbankOrmaSettingsDialog::SberbankOrmaSettingsDialog(QNoxSettings &document, QWidget *parent)
+    : OrmaSettingsDialog(document, parent)
+{
+    Ui_SberbankOrmaSettingsDialog ui;
+    ui.setupUi(this);
+    fillForm(ui, {network(ui.pageNetSettings, ui.leNetAddress, ui.spinNetPort)});
 }

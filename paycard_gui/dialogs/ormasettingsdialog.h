@@ -14,7 +14,6 @@ class OrmaSettingsDialog : public SettingsDialog
 
 public:
     using SettingsDialog::SettingsDialog;
-    ~OrmaSettingsDialog() override;
 
     void loadSettings() override;
     void saveSettings() override;
@@ -31,8 +30,8 @@ protected:
     };
     static PortKind network(QWidget *page, QLineEdit *address, QSpinBox *port);
 
-    /// Takes the widgets that every form of the family has. `kinds` are those that only this form has; they come
-    /// first in the list of ports. `ownFields` are loaded and saved first, whatever the port.
+    /// Takes the widgets that every form of the family has, and loads the settings. `kinds` are those that only this
+    /// form has; they come first in the list of ports. `ownFields` are loaded and saved first, whatever the port.
     template <class Form>
     void fillForm(const Form &form, std::vector<PortKind> kinds = {}, const SettingFields &ownFields = {})
     {
@@ -56,6 +55,33 @@ private:
     QComboBox *portBox = nullptr;
     QStackedWidget *pageStack = nullptr;
     std::vector<PortKind> portKinds;
+};
+
+/// The connection of ARCUS2 terminals.
+class Arcus2OrmaSettingsDialog : public OrmaSettingsDialog
+{
+    Q_OBJECT
+
+public:
+    Arcus2OrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
+};
+
+/// The connection of INPAS SmartSale terminals.
+class InpasOrmaSettingsDialog : public OrmaSettingsDialog
+{
+    Q_OBJECT
+
+public:
+    InpasOrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
+};
+
+/// The connection of Sberbank terminals.
+class SberbankOrmaSettingsDialog : public OrmaSettingsDialog
+{
+    Q_OBJECT
+
+public:
+    SberbankOrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
 };
 
 #endif

@@ -6,6 +6,7 @@
 #include "dialogs/driverconversation.h"
 #include "dialogs/operatorlistdialog.h"
 #include "dialogs/slipdialog.h"
+#include "text/drivertext.h"
 #include "text/settingsreader.h"
 #include "toolkit/texts.h"
 #include "window/scopeddialog.h"
@@ -13,6 +14,9 @@
 
 #include <QCloseEvent>
 #include <QDir>
+
+#include <cwchar>
+#include <vector>
 
 using NOX::PayCard::IPayCard;
 
@@ -25,6 +29,23 @@ const QString TimeoutKey = QString::fromWCharArray(L"Timeout");
 const int DefaultProtocol = 2;
 /// Version that documents for the driver are stamped with.
 const int DocumentVersion = 2;
+
+/// A text that the properties cannot do with less than the whole of, in the driver's own characters. Throws an
+/// Exception when the driver fails, at first or when it is asked once more, when the text does not fit then either, and
+/// when its length is incredible.
+template <class Get>
+std::wstring wholeText(const QNoxPaycard &driver, Get get)
+{
+    const int size = driver.defaultBufferSize();
+    std::vector<wchar_t> buffer(static_cast<std::size_t>(size));
+    const DriverText::Lengths lengths = DriverText::read(buffer, 1, get);
+    driver.raiseError(lengths.last);
+    const bool isGone = lengths.first > size && lengths.last < 1;
+    if (isGone || lengths.last > static_cast<int>(buffer.size())) {
+        throw Exception(QObject::tr("Драйвер не дал текст целиком"));
+    }
+    return std::wstring(buffer.data(), lengths.last < 1 ? 0 : wcsnlen(buffer.data(), buffer.size()));
+}
 
 } // namespace
 
@@ -89,14 +110,16 @@ void PaySystemDialog::resetError()
 
 void PaySystemDialog::loadSettings()
 {
-    loadedXml = driver.getWhole(&IPayCard::getSettings);
+    IPayCard *object = driver.nox();
+    loadedXml = wholeText(driver, [=](wchar_t *text, int size) { return object->getSettings(text, size); });
     const QString text = Toolkit::fromWideText(loadedXml.data(), loadedXml.size());
     settings.fromXml(text);
     if (!text.isEmpty() && !SettingsReader(text).read()) {
         notice = tr("Настройки драйвера не читаются. ОК заменит их, Отмена оставит как есть.");
         resetError();
     }
-    const std::wstring protocols = driver.getWhole(&IPayCard::getSettingChoices, ProtocolKey.toStdWString().c_str());
+    const std::wstring protocols =
+        wholeText(driver, [=](wchar_t *list, int size) { return object->getSettingChoices(L"Protocol", list, size); });
     strToComboBox(ui.cmbProtocol, QString::fromStdWString(protocols), false);
     ShownText::cutItems(ui.cmbProtocol);
     loadFields(fields, settings);

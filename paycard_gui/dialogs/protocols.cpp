@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "dialogs/protocols.h"
 
-#include "dialogs/arcus2lumipaysettingsdialog.h"
-#include "dialogs/arcus2ormasettingsdialog.h"
 #include "dialogs/arcus2settingsdialog.h"
 #include "dialogs/cyberplatsettingsdialog.h"
-#include "dialogs/inpaslumipaysettingsdialog.h"
-#include "dialogs/inpasormasettingsdialog.h"
-#include "dialogs/sberbanklumipaysettingsdialog.h"
-#include "dialogs/sberbankormasettingsdialog.h"
+#include "dialogs/lumipaysettingsdialog.h"
+#include "dialogs/ormasettingsdialog.h"
 #include "window/scopeddialog.h"
 
 #include <iterator>

@@ -30,11 +30,11 @@ DeviceNotFoundException::DeviceNotFoundException() : Exception(QString::fromWCha
 
 DeviceNotFoundException::~DeviceNotFoundException() = default;
 
-QString QNoxText::read(int size, const Operation &operation)
+QString QNoxReadText(int size, int (*call)(const void *get, wchar_t *buffer, int size), const void *get)
 {
     std::vector<wchar_t> buffer(static_cast<std::size_t>(size));
-    const DriverText::Lengths lengths = DriverText::read(
-        buffer, 1, [&](wchar_t *characters, int length) { return operation.call(operation.get, characters, length); });
+    const DriverText::Lengths lengths =
+        DriverText::read(buffer, 1, [=](wchar_t *characters, int length) { return call(get, characters, length); });
     if (!DriverText::isCredible(lengths.first) || lengths.first < 1) {
         return QString();
     }

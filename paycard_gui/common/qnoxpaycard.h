@@ -44,27 +44,9 @@ public:
     ~DeviceNotFoundException() override;
 };
 
-/// How QNoxInterface fetches the texts of a driver, whatever the interface.
-namespace QNoxText {
-
-/// An operation that writes a text to a buffer of this size, as a function and what it is to be called with.
-struct Operation
-{
-    int (*call)(const void *get, wchar_t *buffer, int size); ///< gives what the driver answers
-    const void *get;                                         ///< what is called
-};
-
-/// The text up to its closing zero, or a null text. `size` is that of the first buffer.
-PAYCARD_EXPORT QString read(int size, const Operation &operation);
-template <class Get>
-Operation operation(const Get &get)
-{
-    return {
-        [](const void *getter, wchar_t *buffer, int size) { return (*static_cast<const Get *>(getter))(buffer, size); },
-        &get};
-}
-
-} // namespace QNoxText
+/// How QNoxInterface fetches a text, whatever the interface: has `call(get, buffer, size)` write it, first to a buffer
+/// of `size` characters. The text up to its closing zero, or a null text.
+PAYCARD_EXPORT QString QNoxReadText(int size, int (*call)(const void *get, wchar_t *buffer, int size), const void *get);
 
 /// Reads values from a driver object with the interface T, which it does not own, and turns failures of the
 /// driver into exceptions. Without a driver every call that needs one throws DeviceNotFoundException.
@@ -82,31 +64,69 @@ public:
     typedef int (T::*NamedTextGetter)(const wchar_t *, wchar_t *, int);
 
     /// `object` may be null.
-    explicit QNoxInterface(T *object);
-    virtual ~QNoxInterface();
+    explicit QNoxInterface(T *object)
+        : driver(object),
+          future(static_cast<QFutureInterfaceBase::State>(
+              QFutureInterfaceBase::Started | QFutureInterfaceBase::Finished | QFutureInterfaceBase::Canceled))
+    {
+    }
+    virtual ~QNoxInterface() {}
 
     /// Size of the first buffer for a text, in characters: one call of the driver for a text that fits.
-    virtual int defaultBufferSize() const;
+    virtual int defaultBufferSize() const { return 1024; }
 
     /// The driver, never null.
-    T *nox() const;
+    T *nox() const
+    {
+        if (!driver) {
+            throw DeviceNotFoundException();
+        }
+        return driver;
+    }
 
     /// The number that the getter writes, 0 if it writes none. A failure of the getter raises nothing.
-    int getInt(IntGetter getter) const;
+    int getInt(IntGetter getter) const { return get<int>(getter); }
     /// The same for a number with decimals.
-    double getDouble(DoubleGetter getter) const;
+    double getDouble(DoubleGetter getter) const { return get<double>(getter); }
 
     /// The text that the getter writes up to its closing zero, or a null text. A failure of the getter raises
     /// nothing.
-    QString getBuff(TextGetter getter) const;
+    QString getBuff(TextGetter getter) const
+    {
+        T *object = nox();
+        return read([=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); });
+    }
     /// The same for the text that belongs to a name, such as a setting's value.
-    QString getBuff(NamedTextGetter getter, const wchar_t *name) const;
+    QString getBuff(NamedTextGetter getter, const wchar_t *name) const
+    {
+        T *object = nox();
+        return read([=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); });
+    }
 
     /// Takes the result of a driver's operation and returns it. Throws an Exception with the driver's own
     /// "[code] text (detail)" when the result is negative and the driver has a result code.
     int raiseError(int result) const;
 
 private:
+    template <class Number>
+    Number get(int (T::*getter)(Number *)) const
+    {
+        Number value = 0;
+        (nox()->*getter)(&value);
+        return value;
+    }
+
+    template <class Get>
+    QString read(const Get &get) const
+    {
+        return QNoxReadText(
+            defaultBufferSize(),
+            [](const void *getter, wchar_t *buffer, int size) {
+                return (*static_cast<const Get *>(getter))(buffer, size);
+            },
+            &get);
+    }
+
     T *driver;
     // Never used here; part of the layout that the family's modules share.
     QFutureInterface<int> future;
@@ -124,66 +144,6 @@ public:
 
     int defaultBufferSize() const override;
 };
-
-template <class T>
-QNoxInterface<T>::QNoxInterface(T *object)
-    : driver(object),
-      future(static_cast<QFutureInterfaceBase::State>(QFutureInterfaceBase::Started | QFutureInterfaceBase::Finished |
-                                                      QFutureInterfaceBase::Canceled))
-{
-}
-
-template <class T>
-QNoxInterface<T>::~QNoxInterface()
-{
-}
-
-template <class T>
-int QNoxInterface<T>::defaultBufferSize() const
-{
-    return 1024;
-}
-
-template <class T>
-T *QNoxInterface<T>::nox() const
-{
-    if (!driver) {
-        throw DeviceNotFoundException();
-    }
-    return driver;
-}
-
-template <class T>
-int QNoxInterface<T>::getInt(IntGetter getter) const
-{
-    int value = 0;
-    (nox()->*getter)(&value);
-    return value;
-}
-
-template <class T>
-double QNoxInterface<T>::getDouble(DoubleGetter getter) const
-{
-    double value = 0.0;
-    (nox()->*getter)(&value);
-    return value;
-}
-
-template <class T>
-QString QNoxInterface<T>::getBuff(TextGetter getter) const
-{
-    T *object = nox();
-    const auto get = [=](wchar_t *buffer, int size) { return (object->*getter)(buffer, size); };
-    return QNoxText::read(defaultBufferSize(), QNoxText::operation(get));
-}
-
-template <class T>
-QString QNoxInterface<T>::getBuff(NamedTextGetter getter, const wchar_t *name) const
-{
-    T *object = nox();
-    const auto get = [=](wchar_t *buffer, int size) { return (object->*getter)(name, buffer, size); };
-    return QNoxText::read(defaultBufferSize(), QNoxText::operation(get));
-}
 
 template <class T>
 int QNoxInterface<T>::raiseError(int result) const

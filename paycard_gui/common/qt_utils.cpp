@@ -116,7 +116,7 @@ int cmbData(QComboBox *combo, int role)
     }
     // A variant cuts the number of a text that is too large, where the text itself gives 0.
     const QVariant data = combo->itemData(combo->currentIndex(), role);
-    return Toolkit::isText(data) ? data.toString().toInt() : data.toInt();
+    return Toolkit::typeOf(data) == QMetaType::QString ? data.toString().toInt() : data.toInt();
 }
 
 int QComboCanSelect(QComboBox *combo, const QString &text)

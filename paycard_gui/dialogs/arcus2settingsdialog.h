@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef ARCUS2SETTINGSDIALOG_H
-#define ARCUS2SETTINGSDIALOG_H
+#pragma once
 
 #include "forms/settingsdialog.h"
 #include "ui_arcus2settingsdialog.h"
@@ -18,5 +17,3 @@ public:
 private:
     Ui_Arcus2SettingsDialog ui;
 };
-
-#endif

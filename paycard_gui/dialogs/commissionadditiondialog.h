@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef COMMISSIONADDITIONDIALOG_H
-#define COMMISSIONADDITIONDIALOG_H
+#pragma once
 
 #include "common/qnoxpaycard.h"
 #include "forms/formdialog.h"
@@ -31,5 +30,3 @@ private:
     Ui_CommissionAdditionDialog ui;
     QNoxPaycard driver;
 };
-
-#endif

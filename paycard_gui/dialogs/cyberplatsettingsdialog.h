@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef CYBERPLATSETTINGSDIALOG_H
-#define CYBERPLATSETTINGSDIALOG_H
+#pragma once
 
 #include "forms/settingsdialog.h"
 #include "ui_cyberplatsettingsdialog.h"
@@ -21,5 +20,3 @@ private slots:
 private:
     Ui_CyberPlatSettingsDialog ui;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef DRIVERCONVERSATION_H
-#define DRIVERCONVERSATION_H
+#pragma once
 
 #include "common/qnoxpaycard.h"
 
@@ -38,5 +37,3 @@ bool converse(QWidget *window, const QNoxPaycard &driver, Talk talk)
     talk(wrapper);
     return self;
 }
-
-#endif

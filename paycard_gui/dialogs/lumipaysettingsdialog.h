@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef LUMIPAYSETTINGSDIALOG_H
-#define LUMIPAYSETTINGSDIALOG_H
+#pragma once
 
 #include "forms/settingsdialog.h"
 
@@ -45,5 +44,3 @@ class SberbankLumiPaySettingsDialog : public LumiPaySettingsDialog
 public:
     SberbankLumiPaySettingsDialog(QNoxSettings &settings, QWidget *parent);
 };
-
-#endif

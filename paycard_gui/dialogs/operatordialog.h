@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef OPERATORDIALOG_H
-#define OPERATORDIALOG_H
+#pragma once
 
 #include "forms/settingsdialog.h"
 #include "ui_operatordialog.h"
@@ -20,5 +19,3 @@ private:
 
     Ui_OperatorDialog ui;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef OPERATORLISTDIALOG_H
-#define OPERATORLISTDIALOG_H
+#pragma once
 
 #include "forms/formdialog.h"
 #include "ui_operatorlistdialog.h"
@@ -39,5 +38,3 @@ private:
     Ui_OperatorListDialog ui;
     QNoxSettings &settings;
 };
-
-#endif

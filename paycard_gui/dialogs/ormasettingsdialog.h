@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef ORMASETTINGSDIALOG_H
-#define ORMASETTINGSDIALOG_H
+#pragma once
 
 #include "forms/settingsdialog.h"
 
@@ -83,5 +82,3 @@ class SberbankOrmaSettingsDialog : public OrmaSettingsDialog
 public:
     SberbankOrmaSettingsDialog(QNoxSettings &settings, QWidget *parent);
 };
-
-#endif

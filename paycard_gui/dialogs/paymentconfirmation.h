@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef PAYMENTCONFIRMATION_H
-#define PAYMENTCONFIRMATION_H
+#pragma once
 
 #include <QString>
 
@@ -9,5 +8,3 @@ class QNoxPaycard;
 /// The data of the driver's current payment as rich text for the cashier. Which data it shows depends on the
 /// driver's protocol; for some protocols it is empty. Throws what the driver throws.
 QString paymentConfirmationText(const QNoxPaycard &driver);
-
-#endif

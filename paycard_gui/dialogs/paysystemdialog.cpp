@@ -49,32 +49,7 @@ std::wstring wholeText(const QNoxPaycard &driver, Get get)
 
 } // namespace
 
-PaySystemDialog::PropertiesShown::PropertiesShown(const QNoxPaycard &wrapper) : driver(wrapper)
-{
-    driver.raiseError(driver.nox()->setPropertiesShown(1));
-}
-
-PaySystemDialog::PropertiesShown::~PropertiesShown()
-{
-    try {
-        end();
-    } catch (...) {
-        // Something else has failed before, or nobody is left to hear of it.
-    }
-}
-
-void PaySystemDialog::PropertiesShown::end()
-{
-    if (shown) {
-        shown = false;
-        // The driver may delete the window now, and this with it.
-        const QNoxPaycard wrapper(driver);
-        wrapper.raiseError(wrapper.nox()->setPropertiesShown(0));
-    }
-}
-
-PaySystemDialog::PaySystemDialog(IPayCard *object, QWidget *parent)
-    : FormDialog(parent), driver(object), propertiesShown(driver)
+PaySystemDialog::PaySystemDialog(IPayCard *object, QWidget *parent) : FormDialog(parent), driver(object)
 {
     ui.setupUi(this);
     connect(ui.lePathACDialog, SIGNAL(textChanged(QString)), SLOT(checkState()));
@@ -84,8 +59,40 @@ PaySystemDialog::PaySystemDialog(IPayCard *object, QWidget *parent)
         {TimeoutKey, ui.spinTimeout},
     };
     on_cmbProtocol_currentIndexChanged(ui.cmbProtocol->currentIndex());
-    loadSettings();
-    adjustSize();
+    driver.raiseError(driver.nox()->setPropertiesShown(1));
+    shown = true;
+    try {
+        loadSettings();
+        adjustSize();
+    } catch (...) {
+        tryToHide();
+        throw;
+    }
+}
+
+PaySystemDialog::~PaySystemDialog()
+{
+    tryToHide();
+}
+
+/// Tells the driver, exactly once, that the properties are no longer shown.
+void PaySystemDialog::hideFromDriver()
+{
+    if (shown) {
+        shown = false;
+        // The driver may delete the window now.
+        const QNoxPaycard wrapper(driver);
+        wrapper.raiseError(wrapper.nox()->setPropertiesShown(0));
+    }
+}
+
+/// The same where nothing must be thrown: something else has failed before, or nobody is left to hear of it.
+void PaySystemDialog::tryToHide()
+{
+    try {
+        hideFromDriver();
+    } catch (...) {
+    }
 }
 
 int PaySystemDialog::exec()
@@ -93,7 +100,7 @@ int PaySystemDialog::exec()
     const QPointer<PaySystemDialog> self(this);
     const int code = FormDialog::exec();
     if (self) {
-        propertiesShown.end();
+        hideFromDriver();
     }
     return code;
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef PAYSYSTEMDIALOG_H
-#define PAYSYSTEMDIALOG_H
+#pragma once
 
 #include "common/qnoxpaycard.h"
 #include "common/qnoxsettings.h"
@@ -22,6 +21,8 @@ public:
     /// Throws DeviceNotFoundException without a driver and Exception when the driver fails. The driver may delete
     /// the parent meanwhile: one that the host gave belongs to the dialog once it is whole.
     PaySystemDialog(NOX::PayCard::IPayCard *driver, QWidget *parent);
+
+    ~PaySystemDialog() override;
 
     /// Also throws when the driver refuses to be told that the properties are closed.
     int exec() PAYCARD_OVERRIDES_EXEC;
@@ -50,27 +51,13 @@ private slots:
     void checkState();
 
 private:
-    /// Tells the driver that the properties are shown, and exactly once that they no longer are.
-    class PropertiesShown
-    {
-    public:
-        explicit PropertiesShown(const QNoxPaycard &driver);
-        PropertiesShown(const PropertiesShown &) = delete;
-        PropertiesShown &operator=(const PropertiesShown &) = delete;
-        /// Says so if end() has not; a failure is lost here, where it must not be thrown.
-        ~PropertiesShown();
-        void end();
-
-    private:
-        const QNoxPaycard &driver;
-        bool shown = true;
-    };
-
     void edit(Protocol::EditSettings runDialog);
     template <class Action>
     void reportingFailure(Action action);
     std::wstring textAsLoaded() const;
     bool writeToDriver(std::wstring xml);
+    void hideFromDriver();
+    void tryToHide();
 
     Ui_PaySystemDialog ui;
     QNoxPaycard driver;
@@ -80,7 +67,6 @@ private:
     SettingFields fields;
     /// Stands in the error line while there is no error. Empty when the document can be read.
     QString notice;
-    PropertiesShown propertiesShown;
+    /// While the driver has been told so.
+    bool shown = false;
 };
-
-#endif

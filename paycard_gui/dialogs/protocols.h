@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef PROTOCOLS_H
-#define PROTOCOLS_H
+#pragma once
 
 class QNoxSettings;
 class QWidget;
@@ -32,5 +31,3 @@ struct Protocol
 
 /// That of the number, or nothing at all for a number that is not known.
 const Protocol &protocol(int number);
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SELECTOPERATORDIALOG_H
-#define SELECTOPERATORDIALOG_H
+#pragma once
 
 #include "common/qnoxpaycard.h"
 #include "forms/formdialog.h"
@@ -23,5 +22,3 @@ private:
     Ui_SelectOperatorDialog ui;
     QNoxPaycard driver;
 };
-
-#endif

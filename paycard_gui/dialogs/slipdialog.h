@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SLIPDIALOG_H
-#define SLIPDIALOG_H
+#pragma once
 
 #include "forms/settingsdialog.h"
 #include "ui_slipdialog.h"
@@ -19,5 +18,3 @@ public:
 private:
     Ui_SlipDialog ui;
 };
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef FORMDIALOG_H
-#define FORMDIALOG_H
+#pragma once
 
 #include "common/nohelpbuttondialogs.h"
 
@@ -15,5 +14,3 @@ public:
 
     int exec() PAYCARD_OVERRIDES_EXEC;
 };
-
-#endif

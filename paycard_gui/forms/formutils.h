@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef FORMUTILS_H
-#define FORMUTILS_H
+#pragma once
 
 class QWidget;
 
@@ -8,5 +7,3 @@ class QWidget;
 /// so that the inputs of all groups and pages stand in columns with their labels at their middle. Inputs of any text
 /// are as wide as the toolkit finds right for the font, at least; otherwise it would make do with a few characters.
 void alignLabels(QWidget *form);
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef MAPPINGLIST_H
-#define MAPPINGLIST_H
+#pragma once
 
 #include <QString>
 
@@ -13,5 +12,3 @@ inline QString numberedMapping(QString pattern, int entries)
     }
     return pattern;
 }
-
-#endif

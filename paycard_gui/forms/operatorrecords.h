@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef OPERATORRECORDS_H
-#define OPERATORRECORDS_H
+#pragma once
 
 #include "common/qnoxsettings.h"
 #include "forms/settingfields.h"
@@ -43,5 +42,3 @@ inline QString name(const QString &record)
 }
 
 } // namespace OperatorRecords
-
-#endif

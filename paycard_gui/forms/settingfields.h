@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SETTINGFIELDS_H
-#define SETTINGFIELDS_H
+#pragma once
 
 #include <QString>
 #include <QVariant>
@@ -61,5 +60,3 @@ typedef std::vector<SettingField> SettingFields;
 
 void loadFields(const SettingFields &fields, const QNoxSettings &settings);
 void saveFields(const SettingFields &fields, QNoxSettings &settings);
-
-#endif

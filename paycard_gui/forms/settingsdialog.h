@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SETTINGSDIALOG_H
-#define SETTINGSDIALOG_H
+#pragma once
 
 #include "forms/formdialog.h"
 #include "forms/settingfields.h"
@@ -53,5 +52,3 @@ private slots:
     void on_pbtnOk_clicked();
     void on_pbtnCancel_clicked();
 };
-
-#endif

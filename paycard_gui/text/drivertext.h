@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef DRIVERTEXT_H
-#define DRIVERTEXT_H
+#pragma once
 
 #include <algorithm>
 #include <vector>
@@ -42,5 +41,3 @@ Lengths read(std::vector<wchar_t> &buffer, int extra, Get get)
 }
 
 } // namespace DriverText
-
-#endif

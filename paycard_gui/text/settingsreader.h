@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SETTINGSREADER_H
-#define SETTINGSREADER_H
+#pragma once
 
 #include "text/settingstext.h"
 
@@ -48,5 +47,3 @@ private:
     QString openText;
     qint64 characters = 0;
 };
-
-#endif

@@ -69,7 +69,7 @@ void append(QString &xml, const QString &text, bool inName)
 QString toText(const QVariant &value)
 {
     // The variant's own conversion gives the shortest form on the newer releases: 1e+10 for 10000000000.
-    return Toolkit::isDouble(value) ? QString::number(value.toDouble(), 'g', 15) : value.toString();
+    return Toolkit::typeOf(value) == QMetaType::Double ? QString::number(value.toDouble(), 'g', 15) : value.toString();
 }
 
 /// Goes through a document of the written form.

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SETTINGSTEXT_H
-#define SETTINGSTEXT_H
+#pragma once
 
 #include <QMap>
 #include <QString>
@@ -26,5 +25,3 @@ QString write(const QMap<QString, QVariant> &entries, int version);
 bool read(const QString &xml, std::vector<Entry> &entries);
 
 } // namespace SettingsText
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef TOOLKIT_KEYBOARD_H
-#define TOOLKIT_KEYBOARD_H
+#pragma once
 
 #include <QWidget>
 
@@ -63,5 +62,3 @@ inline void serveModalWindow(const QRect &keyboard, const QWidget &modal)
 }
 
 } // namespace Toolkit
-
-#endif

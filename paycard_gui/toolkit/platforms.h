@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef TOOLKIT_PLATFORMS_H
-#define TOOLKIT_PLATFORMS_H
+#pragma once
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -40,5 +39,3 @@ bool isOtherToolkitLoaded();
 bool hasDisplay();
 
 } // namespace Toolkit
-
-#endif

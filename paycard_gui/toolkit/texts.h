@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef TOOLKIT_TEXTS_H
-#define TOOLKIT_TEXTS_H
+#pragma once
 
 #include <QString>
 #include <QStringList>
@@ -72,6 +71,7 @@ inline QString fromWideText(const wchar_t *wide, std::size_t length)
     return text;
 }
 
+/// Which of the QMetaType the value is.
 inline int typeOf(const QVariant &value)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -79,16 +79,6 @@ inline int typeOf(const QVariant &value)
 #else
     return value.userType();
 #endif
-}
-
-inline bool isDouble(const QVariant &value)
-{
-    return typeOf(value) == QMetaType::Double;
-}
-
-inline bool isText(const QVariant &value)
-{
-    return typeOf(value) == QMetaType::QString;
 }
 
 /// Bounds what one entity may unfold to, in characters. False where the release knows no bound.
@@ -116,5 +106,3 @@ inline void useUtf8Texts()
 }
 
 } // namespace Toolkit
-
-#endif

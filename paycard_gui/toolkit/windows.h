@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef TOOLKIT_WINDOWS_H
-#define TOOLKIT_WINDOWS_H
+#pragma once
 
 #include <QAccessible>
 #include <QApplication>
@@ -123,5 +122,3 @@ inline void announce(QWidget &widget, const QString &text)
 }
 
 } // namespace Toolkit
-
-#endif

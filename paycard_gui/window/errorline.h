@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef ERRORLINE_H
-#define ERRORLINE_H
+#pragma once
 
 #include <QLabel>
 
@@ -29,5 +28,3 @@ protected:
 private:
     QString prefix;
 };
-
-#endif

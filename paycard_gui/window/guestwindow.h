@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef GUESTWINDOW_H
-#define GUESTWINDOW_H
+#pragma once
 
 class QWidget;
 
@@ -10,5 +9,3 @@ void makeGuest(QWidget &window);
 
 /// Puts a window above others of the host, and its inputs above an on-screen keyboard; to be done when it has its size.
 void showOnTop(QWidget &window);
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef INPUTS_H
-#define INPUTS_H
+#pragma once
 
 class QLineEdit;
 class QWidget;
@@ -21,5 +20,3 @@ bool isPartOfInput(const QWidget &widget);
 
 /// Lets the edit hold texts of any length; the toolkit's own bound would cut a stored one.
 void liftLengthLimit(QLineEdit *edit);
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef ONSCREENKEYBOARD_H
-#define ONSCREENKEYBOARD_H
+#pragma once
 
 class QWidget;
 
@@ -9,5 +8,3 @@ class QWidget;
 /// is repeated above the keyboard. To be called when the window is complete. Does nothing with a toolkit that knows no
 /// such keyboard.
 void keepAboveKeyboard(QWidget &window);
-
-#endif

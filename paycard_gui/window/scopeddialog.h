@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SCOPEDDIALOG_H
-#define SCOPEDDIALOG_H
+#pragma once
 
 #include <QPointer>
 
@@ -41,5 +40,3 @@ int runOn(Document &document, QWidget *parent)
     const ScopedDialog<Dialog> dialog(document, parent);
     return dialog->exec();
 }
-
-#endif

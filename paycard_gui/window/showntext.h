@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SHOWNTEXT_H
-#define SHOWNTEXT_H
+#pragma once
 
 #include <QString>
 
@@ -26,5 +25,3 @@ void show(QLabel *label, const QString &text);
 void cutItems(QComboBox *combo);
 
 } // namespace ShownText
-
-#endif

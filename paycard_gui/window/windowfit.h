@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef WINDOWFIT_H
-#define WINDOWFIT_H
+#pragma once
 
 class QDialog;
 class QMessageBox;
@@ -22,5 +21,3 @@ void fitToolkitDialog(QDialog &dialog);
 
 /// Moves a window that is open and reaches over the lower or right edge of its screen.
 void moveOntoScreen(QWidget &window);
-
-#endif

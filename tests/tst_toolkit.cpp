@@ -6,10 +6,15 @@
 
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSpinBox>
+#include <QTimeEdit>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 
 #include <stdexcept>
 
@@ -36,12 +41,25 @@ private slots:
     }
 };
 
+/// A number input of another module: hexadecimal digits, without a class name of its own.
+class HexBox : public QSpinBox
+{
+public:
+    explicit HexBox(QWidget *parent) : QSpinBox(parent) { setMaximum(0xFFFF); }
+
+protected:
+    QString textFromValue(int value) const override { return QString::number(value, 16); }
+    int valueFromText(const QString &text) const override { return text.toInt(nullptr, 16); }
+    QValidator::State validate(QString &, int &) const override { return QValidator::Acceptable; }
+};
+
 class ToolkitTest : public QObject
 {
     Q_OBJECT
 
 private slots:
     void failingSlots();
+    void foreignDialog();
     void messageBoxes();
     void inputs();
     void files();
@@ -73,6 +91,45 @@ void ToolkitTest::failingSlots()
         QTimer::singleShot(0, &dialog, SLOT(accept()));
         QCOMPARE(dialog.exec(), static_cast<int>(QDialog::Accepted));
     }
+}
+
+// The dialog of another module, which has the library's base class, keeps its widgets and its size.
+void ToolkitTest::foreignDialog()
+{
+    NoHelpButtonDialog dialog;
+    QVBoxLayout *layout = new QVBoxLayout(&dialog);
+    HexBox *hex = new HexBox(&dialog);
+    QTimeEdit *time = new QTimeEdit(&dialog);
+    time->setDisplayFormat("HH:mm");
+    QSpinBox *grouped = new QSpinBox(&dialog);
+    grouped->setMaximum(99999);
+    grouped->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    grouped->setProperty("showGroupSeparator", true);
+    QLineEdit *edit = new QLineEdit(&dialog);
+    QToolButton *inner = new QToolButton(edit);
+    QScrollArea *area = new QScrollArea(&dialog);
+    area->setWidget(new QLabel(QString("строка\n").repeated(100)));
+    for (QWidget *widget : QList<QWidget *>{hex, time, grouped, edit, area}) {
+        layout->addWidget(widget);
+    }
+    dialog.resize(400, 300);
+    const auto look = [&](QWidget *) {
+        QCOMPARE(dialog.size(), QSize(400, 300));
+        QCOMPARE(inner->minimumHeight() + edit->minimumHeight() + hex->minimumHeight(), 0);
+        const auto type = [](QAbstractSpinBox *box, const char *text) {
+            box->selectAll();
+            QTest::keyClicks(box, text);
+        };
+        type(hex, "ab");
+        QCOMPARE(hex->value(), 0xAB);
+        type(time, "12:30");
+        QCOMPARE(time->time(), QTime(12, 30));
+        if (grouped->metaObject()->indexOfProperty("showGroupSeparator") >= 0) {
+            type(grouped, "12,345");
+            QCOMPARE(grouped->value(), 12345);
+        }
+    };
+    QCOMPARE(ModalScript({look, [](QWidget *window) { window->close(); }}).run([&] { return dialog.exec(); }), 0);
 }
 
 void ToolkitTest::messageBoxes()

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef AMOUNTS_H
+#define AMOUNTS_H
+
+#include <QString>
+
+/// Roubles and kopecks, with a point in every language.
+inline QString amount(double value)
+{
+    return QString::number(value, 'f', 2);
+}
+
+#endif

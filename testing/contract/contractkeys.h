@@ -16,17 +16,16 @@ struct Key
     const char *name;
     Kind kind = Kind::Text;
     double min = 0.0;
-    double max = 0.0;
+    double max = -1.0; ///< below the minimum: no numbers
     /// Words that are values, too, with bars between them.
     const char *words = "";
 };
 
 inline QStringList wordsOf(const Key &key)
 {
-    return QString::fromLatin1(key.words).split(QLatin1Char('|'));
+    return *key.words ? QString::fromLatin1(key.words).split(QLatin1Char('|')) : QStringList();
 }
 
-const double WordsOnly = -1.0; // as maximum
 const double MaxCode = 999999999.0;
 const double MaxAmount = 10000000000.0;
 const double MaxPort = 65535.0;
@@ -40,7 +39,7 @@ inline const std::vector<Key> DocumentKeys = {
     {"Operators", Kind::Whole, 0, 100000},
     {"URL"},
     {"CheckTimeout", Kind::Whole, 0, 999},
-    {"UseProxy", Kind::Whole, 0, WordsOnly, "true|false"},
+    {"UseProxy", Kind::Whole, 0, -1, "true|false"},
     {"ProxyServer"},
     {"ProxyPort", Kind::Whole, 0, MaxPort},
     {"DealerCode", Kind::Whole, 0, MaxCode},
@@ -58,13 +57,13 @@ inline const std::vector<Key> DocumentKeys = {
     {"Vid", Kind::Whole, 0, MaxPort},
     {"Pid", Kind::Whole, 0, MaxPort},
     {"TTYSuffix"},
-    {"BaudRate", Kind::Whole, 0, WordsOnly, Speeds},
+    {"BaudRate", Kind::Whole, 0, -1, Speeds},
 };
 
 inline const std::vector<Key> SlipKeys = {
     {"Header"},
     {"Footer"},
-    {"HideCard", Kind::Whole, 0, WordsOnly, "true"},
+    {"HideCard", Kind::Whole, 0, -1, "true"},
 };
 
 inline const std::vector<Key> OperatorKeys = {

@@ -31,7 +31,7 @@ bool fits(const Key &key, const QString &value)
         number = value.toDouble(&isNumber);
         break;
     }
-    return (isNumber && number >= key.min && number <= key.max) || (!value.isEmpty() && wordsOf(key).contains(value));
+    return (isNumber && number >= key.min && number <= key.max) || wordsOf(key).contains(value);
 }
 
 /// The same for keys that are easily taken for each other.

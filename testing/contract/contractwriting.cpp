@@ -22,11 +22,8 @@ QString longText()
 
 QString largest(const Key &key)
 {
-    QString word = wordsOf(key).constFirst();
-    if (!word.isEmpty()) {
-        return word;
-    }
-    return key.kind == Kind::Text || key.kind == Kind::NotEmpty ? longText() : QString::number(key.max, 'f', 0);
+    const bool isText = key.kind == Kind::Text || key.kind == Kind::NotEmpty;
+    return wordsOf(key).value(0, isText ? longText() : QString::number(key.max, 'f', 0));
 }
 
 QString withKeys(const std::vector<Key> &keys)

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef AMOUNTS_H
-#define AMOUNTS_H
+#pragma once
 
 #include <QString>
 
@@ -9,5 +8,3 @@ inline QString amount(double value)
 {
     return QString::number(value, 'f', 2);
 }
-
-#endif

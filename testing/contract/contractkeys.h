@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef CONTRACTKEYS_H
-#define CONTRACTKEYS_H
+#pragma once
 
 #include <QStringList>
 
@@ -85,5 +84,3 @@ inline const std::vector<Key> OperatorKeys = {
 };
 
 } // namespace ContractKeys
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef CONTRACTRULES_H
-#define CONTRACTRULES_H
+#pragma once
 
 #include "testing/contract/contractsession.h"
 
@@ -39,5 +38,3 @@ void probeRefused(ContractSession &session);
 void probePutBack(ContractSession &session);
 void probeMemory(ContractSession &session);
 void probeTimes(ContractSession &session);
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef CONTRACTSESSION_H
-#define CONTRACTSESSION_H
+#pragma once
 
 #include "common/ipaycard.h"
 #include "testing/contractfinding.h"
@@ -53,5 +52,3 @@ std::vector<TextGetter> textGetters(NOX::PayCard::IPayCard &driver);
 QMap<QString, QString> entriesOf(const QString &xml);
 /// The same entries in the form in which the library writes them.
 QString rewritten(const QString &xml, const char *version);
-
-#endif

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef OPERATIONS_H
-#define OPERATIONS_H
+#pragma once
 
 #include <QString>
 
@@ -10,5 +9,3 @@ inline bool tellsOfFailure(const QString &operation)
 {
     return operation.startsWith(QLatin1String("getResult")) || operation.startsWith(QLatin1String("getError"));
 }
-
-#endif

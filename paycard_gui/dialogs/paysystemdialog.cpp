@@ -132,10 +132,10 @@ void PaySystemDialog::loadSettings()
     loadFields(fields, settings);
 }
 
-bool PaySystemDialog::saveSettings()
+void PaySystemDialog::saveSettings()
 {
     saveFields(fields, settings);
-    return writeToDriver(settings.toXml(DocumentVersion).toStdWString());
+    writeToDriver(settings.toXml(DocumentVersion).toStdWString());
 }
 
 /// What Cancel gives the driver: its document written anew, or as it is when it cannot be read.
@@ -146,7 +146,7 @@ std::wstring PaySystemDialog::textAsLoaded() const
                : loadedXml;
 }
 
-/// Gives the driver the text, which is this function's own: the window may go meanwhile. True while it is to be used.
+/// Gives the driver the text, which is this function's own: the window may go meanwhile. True while it exists.
 bool PaySystemDialog::writeToDriver(std::wstring xml)
 {
     return converse(this, driver,
@@ -234,8 +234,10 @@ void PaySystemDialog::checkState()
 
 void PaySystemDialog::on_pbtnOk_clicked()
 {
-    reportingFailure([this] {
-        if (saveSettings()) {
+    const QPointer<PaySystemDialog> self(this);
+    reportingFailure([&] {
+        saveSettings();
+        if (self) {
             accept();
         }
     });
@@ -261,15 +263,6 @@ void PaySystemDialog::closeEvent(QCloseEvent *event)
         guarded([this] { writeToDriver(textAsLoaded()); });
     }
     event->accept();
-}
-
-/// The parent has gone, and the driver may go next.
-void PaySystemDialog::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::ParentChange && !parentWidget()) {
-        tryToHide();
-    }
-    FormDialog::changeEvent(event);
 }
 
 void PaySystemDialog::on_pbtnAbout_clicked()

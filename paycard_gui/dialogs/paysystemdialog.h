@@ -30,8 +30,7 @@ public:
     void setError(const QString &text);
     void resetError();
     void loadSettings();
-    /// True when the window is still to be used.
-    bool saveSettings();
+    void saveSettings();
 
 public slots:
     /// Cancels: the button and the Escape key come here.
@@ -39,7 +38,6 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private slots:
     void on_pbtnSlip_clicked();

@@ -622,7 +622,7 @@ commission:</translation>
     </message>
     <message>
         <source>Настройки драйвера не читаются. ОК заменит их, Отмена оставит как есть.</source>
-        <translation>The driver's settings cannot be read. OK replaces them, Cancel leaves them as they are.</translation>
+        <translation>The driver&apos;s settings cannot be read. OK replaces them, Cancel leaves them as they are.</translation>
     </message>
 </context>
 <context>

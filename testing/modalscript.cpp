@@ -47,11 +47,11 @@ void ModalScript::poll()
 {
     // Before the step, too: one that opens a window itself does not return before that window has closed.
     timer.start();
-    if (sinceLastStep.hasExpired(patience)) {
-        complain(QString::fromLatin1("nothing has happened for %1 ms").arg(patience));
-    }
     QWidget *window = QApplication::activeModalWidget();
     if (!window || !window->isVisible()) {
+        if (sinceLastStep.hasExpired(patience)) {
+            complain(QString::fromLatin1("nothing has happened for %1 ms").arg(patience));
+        }
         return;
     }
     if (next == steps.size()) {

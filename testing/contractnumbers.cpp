@@ -2,7 +2,7 @@
 //
 // Getters of numbers; and what every operation costs in time and memory.
 
-#include "testing/contract/contractrules.h"
+#include "testing/contractrules.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -102,7 +102,7 @@ qint64 keptBy(const Call &call)
 
 } // namespace
 
-void probeNumbers(ContractSession &session)
+void showNumbers(ContractSession &session)
 {
     Driver &driver = session.driver;
     for (const Call &call : numberGetters(driver)) {
@@ -121,7 +121,7 @@ void probeNumbers(ContractSession &session)
     }
 }
 
-void probeMemory(ContractSession &session)
+void showMemory(ContractSession &session)
 {
     Driver &driver = session.driver;
     std::vector<wchar_t> buffer(FirstBufferSize);
@@ -147,7 +147,7 @@ void probeMemory(ContractSession &session)
     }
 }
 
-void probeTimes(ContractSession &session)
+void showTimes(ContractSession &session)
 {
     QStringList slowest = session.slowest.keys();
     std::sort(slowest.begin(), slowest.end(), [&](const QString &left, const QString &right) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#pragma once
+#ifndef SETTINGSFILE_H
+#define SETTINGSFILE_H
 
 #include <QByteArray>
 #include <QLockFile>
@@ -31,3 +32,5 @@ private:
     QString place;
     QLockFile lockFile;
 };
+
+#endif

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/nohelpbuttondialogs.h"
-#include "register.h"
+#include "testing/cashier.h"
 #include "testing/librarypaycard.h"
+#include "testing/simulateddriver.h"
 #include "toolkit/windows.h"
 #include "windowtour.h"
 
@@ -51,10 +52,8 @@ QList<QWidget *> formWidgets(const QWidget *window)
     QList<QWidget *> widgets;
     const QList<QWidget *> children = window->findChildren<QWidget *>();
     for (QWidget *widget : children) {
-        const QWidget *parent = widget->parentWidget();
-        const bool isContents =
-            isOneOf<QAbstractScrollArea>(parent) || isOneOf<QAbstractScrollArea>(parent->parentWidget());
-        if (widget->isVisible() && !isPartOfInput(widget) && !isContents) {
+        const bool isPart = isOneOf<QAbstractSpinBox, QComboBox, QAbstractScrollArea>(widget->parentWidget());
+        if (widget->isVisible() && !isPart && !isOneOf<QAbstractScrollArea>(widget->parentWidget()->parentWidget())) {
             widgets += widget;
         }
     }

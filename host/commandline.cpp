@@ -164,18 +164,59 @@ QString assign(const Members &members, const QString &text)
     return QString();
 }
 
-/// Reads "operation:name=value,..." or "operation"; gives what is wrong with it.
-QString readFailure(const QString &text, QPair<QString, Failure> *failure)
+/// Takes one of these names, or says that there is none such.
+Reader oneOf(const QStringList &names, const char *complaint, QString &name)
 {
-    const QString &operation = failure->first = text.section(':', 0, 0);
-    if (!SimulatedDriver::operations().contains(operation)) {
-        return QString("нет операции «%1»").arg(operation);
-    }
-    QString problem = text.contains(':') ? assign(membersOf(failure->second), text.section(':', 1)) : QString();
-    if (problem.isEmpty() && !failure->second.argument.isEmpty() && !SimulatedDriver::takesArgument(operation)) {
-        return QString("у операции %1 нет аргумента").arg(operation);
-    }
-    return problem;
+    return [=, &name](const QString &value) {
+        name = value;
+        return names.contains(value) ? QString() : QString(complaint).arg(value);
+    };
+}
+
+Reader into(double &factor, double most)
+{
+    return [&factor, most](const QString &value) {
+        const bool isNumber = into(factor)(value).isEmpty();
+        const bool isUsable = isNumber && factor > 0.0 && factor <= most;
+        return isUsable ? QString() : QString("«%1» — не число больше 0 и не больше %2").arg(value).arg(most);
+    };
+}
+
+Reader into(Operation &operation)
+{
+    return [&](const QString &value) { return assign(membersOf(operation), value); };
+}
+
+/// Takes "operation:name=value,..." or "operation".
+Reader into(QList<QPair<QString, Failure>> &failures)
+{
+    return [&](const QString &text) {
+        const QString operation = text.section(':', 0, 0);
+        if (!SimulatedDriver::operations().contains(operation)) {
+            return QString("нет операции «%1»").arg(operation);
+        }
+        failures.append({operation, Failure()});
+        Failure &failure = failures.last().second;
+        const QString problem = text.contains(':') ? assign(membersOf(failure), text.section(':', 1)) : QString();
+        if (problem.isEmpty() && !failure.argument.isEmpty() && !SimulatedDriver::takesArgument(operation)) {
+            return QString("у операции %1 нет аргумента").arg(operation);
+        }
+        return problem;
+    };
+}
+
+/// The options that have values, and what takes them.
+std::vector<std::pair<QCommandLineOption, Reader>> readersOf(const Options &options, CommandLine &line)
+{
+    return {{options.settings, into(line.settings)},
+            {options.sample, oneOf(SimulatedDriver::samples(), "нет образца «%1»", line.sample)},
+            {options.operation, into(line.operation)},
+            {options.fail, into(line.failures)},
+            {options.call, oneOf(LibraryPaycard::functions(), "нет функции «%1»", line.function)},
+            {options.journal, into(line.journal)},
+            {options.gallery, into(line.gallery)},
+            {options.fontScale, into(line.fontScale, 10.0)},
+            {options.language, into(line.language)}};
 }
 
 QString lacking(const QCommandLineOption &option)
@@ -201,9 +242,12 @@ QString complaint(const QCommandLineParser &parser, const Options &options)
     return parser.errorText();
 }
 
-/// Options that would have no effect together.
-QString contradiction(const QCommandLineParser &parser, const Options &options)
+/// Words and options that would have no effect.
+QString misuse(const QCommandLineParser &parser, const Options &options)
 {
+    if (!parser.positionalArguments().isEmpty()) {
+        return QString("Лишнее слово «%1»").arg(parser.positionalArguments().first());
+    }
     const auto both = [&](const QCommandLineOption &one, const QCommandLineOption &other) {
         return parser.isSet(one) && parser.isSet(other);
     };
@@ -222,6 +266,23 @@ QString contradiction(const QCommandLineParser &parser, const Options &options)
     return QString();
 }
 
+/// Reads the values; gives the first thing that is wrong with them.
+QString readValues(const QCommandLineParser &parser, const Options &options, CommandLine &line)
+{
+    for (const auto &reader : readersOf(options, line)) {
+        const QCommandLineOption &option = reader.first;
+        const QStringList values = parser.values(option);
+        for (const QString &value : values) {
+            // An empty one would mean that the option is not there.
+            const QString problem = value.isEmpty() ? lacking(option) : reader.second(value);
+            if (!problem.isEmpty()) {
+                return value.isEmpty() ? problem : QString("--%1: %2").arg(option.names().first(), problem);
+            }
+        }
+    }
+    return QString();
+}
+
 } // namespace
 
 CommandLine CommandLine::parse(const QStringList &arguments)
@@ -230,61 +291,13 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     QCommandLineParser parser;
     parser.addOptions(options.all());
     CommandLine line;
-    const auto wrong = [&](const QString &problem) {
-        line.problem = problem;
-        return line;
-    };
-    if (!parser.parse(arguments)) {
-        return wrong(complaint(parser, options));
-    }
-    if (!parser.positionalArguments().isEmpty()) {
-        return wrong(QString("Лишнее слово «%1»").arg(parser.positionalArguments().first()));
-    }
-    line.wantsHelp = parser.isSet(options.help);
-    line.wantsVersion = parser.isSet(options.version);
-    line.settings = parser.value(options.settings);
-    line.sample = parser.value(options.sample);
-    line.function = parser.value(options.call);
-    line.json = parser.isSet(options.json);
-    line.journal = parser.value(options.journal);
-    line.gallery = parser.value(options.gallery);
-    line.language = parser.value(options.language);
-    line.problem = contradiction(parser, options);
-    if (!line.problem.isEmpty()) {
-        return line;
-    }
-    // An empty name would mean that the option is not there.
-    for (const QCommandLineOption &option : {options.settings, options.call, options.journal, options.gallery}) {
-        if (parser.isSet(option) && parser.value(option).isEmpty()) {
-            return wrong(lacking(option));
-        }
-    }
-    if (!SimulatedDriver::samples().contains(line.sample)) {
-        return wrong(QString("--sample: нет образца «%1»").arg(line.sample));
-    }
-    if (!line.function.isEmpty() && !LibraryPaycard::functions().contains(line.function)) {
-        return wrong(QString("--call: нет функции «%1»").arg(line.function));
-    }
-    const QString scale = parser.value(options.fontScale);
-    if (!into(line.fontScale)(scale).isEmpty() || !(line.fontScale > 0.0 && line.fontScale <= 10.0)) {
-        return wrong(QString("--font-scale: «%1» — не число больше 0 и не больше 10").arg(scale));
-    }
     line.operation = exampleOperation();
-    const QStringList operations = parser.values(options.operation);
-    for (const QString &text : operations) {
-        const QString problem = assign(membersOf(line.operation), text);
-        if (!problem.isEmpty()) {
-            return wrong("--operation: " + problem);
-        }
-    }
-    const QStringList failures = parser.values(options.fail);
-    for (const QString &text : failures) {
-        QPair<QString, Failure> failure;
-        const QString problem = readFailure(text, &failure);
-        if (!problem.isEmpty()) {
-            return wrong(QString("--fail %1: %2").arg(text, problem));
-        }
-        line.failures << failure;
+    line.problem = parser.parse(arguments) ? misuse(parser, options) : complaint(parser, options);
+    if (line.problem.isEmpty()) {
+        line.wantsHelp = parser.isSet(options.help);
+        line.wantsVersion = parser.isSet(options.version);
+        line.json = parser.isSet(options.json);
+        line.problem = readValues(parser, options, line);
     }
     return line;
 }

@@ -12,6 +12,7 @@
 #include "window/scopeddialog.h"
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QPointer>
 #include <QThread>
 
@@ -27,18 +28,58 @@ bool canShowWidgets()
     return application && Toolkit::showsWidgets() && application->thread() == QThread::currentThread();
 }
 
+/// Lives among the parent's children ahead of a dialog, so that it goes before it: the dialog, which may be in the
+/// middle of a signal of one of its widgets, is closed then, and goes once its own calls have returned.
+class DialogRescue : public QObject
+{
+public:
+    explicit DialogRescue(QWidget *parent) : QObject(parent) {}
+    DialogRescue(const DialogRescue &) = delete;
+    DialogRescue &operator=(const DialogRescue &) = delete;
+    ~DialogRescue() override
+    {
+        if (!dialog) {
+            return;
+        }
+        const QList<QWidget *> widgets = dialog->findChildren<QWidget *>();
+        for (QWidget *widget : widgets) {
+            if (widget->isWindow()) {
+                widget->hide();
+            }
+        }
+        dialog->setParent(nullptr, dialog->windowFlags());
+    }
+
+    QPointer<QDialog> dialog;
+};
+
 /// The host's widget, which the host may delete at any time.
 class Parent
 {
 public:
-    explicit Parent(QWidget *parent) : widget(parent), given(parent != nullptr) {}
+    explicit Parent(QWidget *parent)
+        : widget(parent), given(parent != nullptr), rescue(parent ? new DialogRescue(parent) : nullptr)
+    {
+    }
+    Parent(const Parent &) = delete;
+    Parent &operator=(const Parent &) = delete;
+    ~Parent() { delete rescue; }
 
     QWidget *get() const { return widget; }
     bool isGone() const { return given && !widget; }
+    void adopt(QDialog &dialog) const
+    {
+        if (widget) {
+            rescue->dialog = &dialog;
+            dialog.setParent(widget, dialog.windowFlags());
+            dialog.adjustSize();
+        }
+    }
 
 private:
-    QPointer<QWidget> widget;
-    bool given;
+    const QPointer<QWidget> widget;
+    const bool given;
+    const QPointer<DialogRescue> rescue;
 };
 
 /// The frame of the entry points: runs `action(driver, parent)`, which nothing leaves but its result. Whatever it
@@ -71,11 +112,15 @@ int run(NOX::PayCard::IPayCard *driver, const Parent &parent)
     if (parent.isGone()) {
         return QDialog::Rejected;
     }
-    if (parent.get()) {
-        dialog->setParent(parent.get(), dialog->windowFlags());
-        dialog->adjustSize();
+    parent.adopt(*dialog);
+    try {
+        return dialog->exec();
+    } catch (...) {
+        if (parent.isGone()) {
+            return QDialog::Rejected;
+        }
+        throw;
     }
-    return dialog->exec();
 }
 
 template <class Dialog>

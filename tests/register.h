@@ -7,6 +7,8 @@
 #include "testing/cashier.h"
 #include "testing/simulateddriver.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QMessageBox>
 #include <QtTest>
 
@@ -39,6 +41,13 @@ Widget *child(QWidget *window, const char *name)
         qFatal("%s has no %s", window->metaObject()->className(), name);
     }
     return widget;
+}
+
+/// Whether the toolkit has made it for a spin or combo box.
+inline bool isPartOfInput(const QWidget *widget)
+{
+    const QObject *parent = widget->parent();
+    return qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent);
 }
 
 /// A register at work: the simulated driver, and a cashier or technician who plays the steps.

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QListWidget>
 #include <QPixmapCache>
 
 using NOX::PayCard::IPayCard;
@@ -114,6 +115,15 @@ void agree(QWidget *window)
     }
 }
 
+/// Has the driver asked for whatever a window asks for while it is open.
+void use(QWidget *window)
+{
+    if (QWidget *choice = window->findChild<QWidget *>("cmbCommissionAddition")) {
+        QTest::keyClick(choice, Qt::Key_Down);
+    }
+    Cashier::tryPress(window, "pbtnAbout");
+}
+
 /// Agrees to every window while it lives.
 class AgreeingUser : public QObject
 {
@@ -189,38 +199,47 @@ void BridgeTest::failures()
     }
 }
 
+namespace {
+
+/// What can happen while a driver runs an event loop of its own in one of its operations.
+const struct
+{
+    const char *name;
+    void (*happens)(QWidget *window, QWidget *parent);
+} Intrusions[] = {
+    {"parent deleted", [](QWidget * /*window*/, QWidget *parent) { delete parent; }},
+    {"Enter", [](QWidget *window, QWidget * /*parent*/) { QTest::keyClick(window, Qt::Key_Return); }},
+    {"window closed", [](QWidget *window, QWidget * /*parent*/) { window->close(); }},
+    {"all windows closed", [](QWidget * /*window*/, QWidget * /*parent*/) { QApplication::closeAllWindows(); }},
+};
+
+} // namespace
+
 void BridgeTest::intrusions_data()
 {
-    failures_data();
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<int>("intrusion");
+    for (int entry = 0; entry < 4; ++entry) {
+        for (const QString &operation : SimulatedDriver::operations()) {
+            for (int i = 0; i < 4; ++i) {
+                QTest::addRow("%s, %s, %s", EntryPoints[entry].name, qPrintable(operation), Intrusions[i].name)
+                    << entry << operation << i;
+            }
+        }
+    }
 }
 
-// What can happen while a driver runs an event loop of its own in one of its operations.
 void BridgeTest::intrusions()
 {
     QFETCH(int, entry);
     QFETCH(QString, operation);
-    QWidget *parent = nullptr;
-    const auto onWindow = [](const std::function<void(QWidget *)> &act) {
-        return [=] {
-            if (QWidget *window = QApplication::activeModalWidget()) {
-                act(window);
-            }
-        };
-    };
-    const struct
-    {
-        std::function<void()> happens;
-        bool deletesParent;
-    } rows[] = {
-        {[&] { delete parent; }, true},
-        {onWindow([](QWidget *window) { QTest::keyClick(window, Qt::Key_Return); }), false},
-        {onWindow([](QWidget *window) { window->close(); }), false},
-        {[] { QApplication::closeAllWindows(); }, false},
-    };
-    for (const auto &row : rows) {
-        for (const bool closing : {false, true}) {
-            parent = new QWidget;
-            const QPointer<QWidget> alive(parent);
+    QFETCH(int, intrusion);
+    for (const bool closing : {false, true}) {
+        // At each of the operation's calls in turn, until there is none with this number.
+        bool reached = true;
+        for (int nth = 0; reached; ++nth) {
+            QPointer<QWidget> parent = new QWidget;
             Register shop = shopWithOperator();
             shop.mayEndEarly = true;
             shop.driver.operation.operatorIndex = 0;
@@ -231,18 +250,21 @@ void BridgeTest::intrusions()
                 shop.driver.failOperation("setSettings", {Fault::Refuse, 6, "Отказ", "деталь"});
             }
             shop.driver.failOperation(operation, {Fault::RunsEvents, 0, QString(), QString()});
-            int happened = 0;
+            int calls = 0;
             shop.driver.onEvents = [&] {
-                if (happened++ == 0) {
-                    row.happens();
+                QWidget *window = QApplication::activeModalWidget();
+                if (calls++ == nth) {
+                    Intrusions[intrusion].happens(window ? window : parent.data(), parent);
                 }
             };
             const auto leave = [&](QWidget *window) { closing ? void(window->close()) : agree(window); };
-            const int result = shop.run(EntryPoints[entry].call, {leave, leave, leave}, parent);
+            const int result = shop.run(EntryPoints[entry].call, {use, leave, leave, leave}, parent);
+            reached = calls > nth;
             QVERIFY(result >= -1 && result <= EntryPoints[entry].lastResult);
-            if (row.deletesParent && happened > 0) {
-                QVERIFY(!alive);
-                QVERIFY2(result == 0 || (closing && result == -1), qPrintable(QString::number(result)));
+            if (reached && intrusion == 0) {
+                QVERIFY(!parent);
+                // The driver has the settings when it hears that the properties are closed.
+                QCOMPARE(result, operation == "setPropertiesShown" && nth == 1 && !closing ? 1 : 0);
             }
             if (entry == 2) {
                 QCOMPARE(shop.driver.propertiesShown(), 0);
@@ -250,7 +272,7 @@ void BridgeTest::intrusions()
                 // Told once, whatever is pressed meanwhile; a refusal leaves the window open for more.
                 QVERIFY(isOfError || shop.calls("setSettings") <= 1);
             }
-            delete alive;
+            delete parent;
             QVERIFY(QApplication::topLevelWidgets().isEmpty());
         }
     }
@@ -265,11 +287,27 @@ void BridgeTest::parentGoes()
         QCOMPARE(shop.run(entry.call, {[&](QWidget *) { delete parent; }}, parent), 0);
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
     }
-    for (const char *button : {"pbtnSlip", "pbtnOperators", "pbtnSettingsButton", "pbtnAbout", "pbtnPathACDialog"}) {
+    const auto doubleClick = [](QWidget *window) {
+        QListWidget *list = child<QListWidget>(window, "lwOperators");
+        const QPoint place = list->visualItemRect(list->item(0)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    };
+    const std::vector<ModalScript::Step> ways[] = {{press("pbtnSlip")},
+                                                   {press("pbtnOperators"), doubleClick},
+                                                   {press("pbtnSettingsButton")},
+                                                   {press("pbtnAbout")},
+                                                   {press("pbtnPathACDialog")}};
+    for (auto steps : ways) {
         Register shop = shopWithOperator();
         QWidget *parent = new QWidget;
-        QCOMPARE(shop.run(ShowProperties, {press(button), [&](QWidget *) { delete parent; }}, parent), 0);
-        QCOMPARE(shop.driver.propertiesShown(), 0);
+        int shown = 1;
+        steps.push_back([&](QWidget *) {
+            delete parent;
+            shown = shop.driver.propertiesShown(); // the driver may be gone next
+        });
+        QCOMPARE(shop.run(ShowProperties, steps, parent), 0);
+        QCOMPARE(shown, 0);
         QVERIFY(QApplication::topLevelWidgets().isEmpty());
     }
 }

@@ -2,9 +2,7 @@
 #include "common/nohelpbuttondialogs.h"
 #include "register.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
-#include <QComboBox>
 #include <QInputMethod>
 #include <QLabel>
 #include <QLineEdit>
@@ -116,9 +114,7 @@ QList<QWidget *> inputsOf(const QWidget *window)
     QList<QWidget *> inputs;
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
-        const QWidget *around = widget->parentWidget();
-        const bool isPart = qobject_cast<const QAbstractSpinBox *>(around) || qobject_cast<const QComboBox *>(around);
-        if (widget->isVisible() && widget->isEnabled() && !isPart &&
+        if (widget->isVisible() && widget->isEnabled() && !isPartOfInput(widget) &&
             (qobject_cast<QLineEdit *>(widget) || qobject_cast<QAbstractSpinBox *>(widget) ||
              qobject_cast<QTextEdit *>(widget))) {
             inputs += widget;

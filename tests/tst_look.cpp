@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/nohelpbuttondialogs.h"
-#include "testing/cashier.h"
+#include "register.h"
 #include "testing/librarypaycard.h"
-#include "testing/simulateddriver.h"
 #include "toolkit/windows.h"
 #include "windowtour.h"
 
@@ -52,8 +51,10 @@ QList<QWidget *> formWidgets(const QWidget *window)
     QList<QWidget *> widgets;
     const QList<QWidget *> children = window->findChildren<QWidget *>();
     for (QWidget *widget : children) {
-        const bool isPart = isOneOf<QAbstractSpinBox, QComboBox, QAbstractScrollArea>(widget->parentWidget());
-        if (widget->isVisible() && !isPart && !isOneOf<QAbstractScrollArea>(widget->parentWidget()->parentWidget())) {
+        const QWidget *parent = widget->parentWidget();
+        const bool isContents =
+            isOneOf<QAbstractScrollArea>(parent) || isOneOf<QAbstractScrollArea>(parent->parentWidget());
+        if (widget->isVisible() && !isPartOfInput(widget) && !isContents) {
             widgets += widget;
         }
     }

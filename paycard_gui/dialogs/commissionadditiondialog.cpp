@@ -4,6 +4,7 @@
 #include "common/qt_utils.h"
 #include "dialogs/driverconversation.h"
 #include "forms/mappinglist.h"
+#include "text/amounts.h"
 #include "window/showntext.h"
 
 #include <cmath>
@@ -30,11 +31,6 @@ double fround(double value, int decimals)
     const double sign = value > 0 ? 1 : value < 0 ? -1 : 0;
     const double truncated = std::trunc((value + 0.00001 * sign) / step);
     return std::fabs(value / step - truncated) >= 0.49999 ? step * (truncated + sign) : step * truncated;
-}
-
-QString amount(double value)
-{
-    return QString::number(value, 'f', 2);
 }
 
 } // namespace

@@ -23,17 +23,18 @@ private:
     const QPointer<QWidget> focus;
 };
 
-/// Has a window talk to the driver: calls `talk(driver)`, and says whether the window still exists.
+/// Has a window talk to the driver: calls `talk(driver)`, and says whether the window is still to be used.
 ///
 /// A driver may run an event loop in any of its operations. So the window takes no input meanwhile, a second OK
-/// among it; and when the loop has the parent deleted, the window with its driver wrapper is gone: `talk` gets a
-/// wrapper of its own, must use nothing of the window, and the caller must not either unless this is true.
+/// among it; and when the loop has the parent deleted, the window has ended without one, and the driver is told nothing
+/// more. `talk` gets a wrapper of its own and uses nothing of the window, which may be gone, too.
 template <class Talk>
 bool converse(QWidget *window, const QNoxPaycard &driver, Talk talk)
 {
     const QPointer<QWidget> self(window);
     const QNoxPaycard wrapper(driver); // NOLINT(performance-unnecessary-copy-initialization): outlives the window's
+    const QWidget *const parent = window->parentWidget();
     const InputBlock block(window);
     talk(wrapper);
-    return self;
+    return self && self->parentWidget() == parent;
 }

@@ -3,6 +3,7 @@
 
 #include "common/qnoxpaycard.h"
 #include "dialogs/protocols.h"
+#include "text/amounts.h"
 #include "toolkit/texts.h"
 #include "window/showntext.h"
 
@@ -34,11 +35,6 @@ QString operationStr(int code)
         QT_TRANSLATE_NOOP("QObject", "Оплата услуг картой"),
     };
     return code >= 0 && code < static_cast<int>(std::size(names)) ? QObject::tr(names[code]) : QString();
-}
-
-QString amount(double value)
-{
-    return QString::number(value, 'f', 2);
 }
 
 /// The pattern with the driver's text for %1, shown literally; nothing when there is no text.

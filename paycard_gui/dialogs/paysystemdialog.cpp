@@ -132,10 +132,10 @@ void PaySystemDialog::loadSettings()
     loadFields(fields, settings);
 }
 
-void PaySystemDialog::saveSettings()
+bool PaySystemDialog::saveSettings()
 {
     saveFields(fields, settings);
-    writeToDriver(settings.toXml(DocumentVersion).toStdWString());
+    return writeToDriver(settings.toXml(DocumentVersion).toStdWString());
 }
 
 /// What Cancel gives the driver: its document written anew, or as it is when it cannot be read.
@@ -146,7 +146,7 @@ std::wstring PaySystemDialog::textAsLoaded() const
                : loadedXml;
 }
 
-/// Gives the driver the text, which is this function's own: the window may go meanwhile. True while it exists.
+/// Gives the driver the text, which is this function's own: the window may go meanwhile. True while it is to be used.
 bool PaySystemDialog::writeToDriver(std::wstring xml)
 {
     return converse(this, driver,
@@ -234,10 +234,8 @@ void PaySystemDialog::checkState()
 
 void PaySystemDialog::on_pbtnOk_clicked()
 {
-    const QPointer<PaySystemDialog> self(this);
-    reportingFailure([&] {
-        saveSettings();
-        if (self) {
+    reportingFailure([this] {
+        if (saveSettings()) {
             accept();
         }
     });
@@ -263,6 +261,15 @@ void PaySystemDialog::closeEvent(QCloseEvent *event)
         guarded([this] { writeToDriver(textAsLoaded()); });
     }
     event->accept();
+}
+
+/// The parent has gone, and the driver may go next.
+void PaySystemDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ParentChange && !parentWidget()) {
+        tryToHide();
+    }
+    FormDialog::changeEvent(event);
 }
 
 void PaySystemDialog::on_pbtnAbout_clicked()

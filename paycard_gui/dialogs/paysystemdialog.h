@@ -30,7 +30,8 @@ public:
     void setError(const QString &text);
     void resetError();
     void loadSettings();
-    void saveSettings();
+    /// True when the window is still to be used.
+    bool saveSettings();
 
 public slots:
     /// Cancels: the button and the Escape key come here.
@@ -38,6 +39,7 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private slots:
     void on_pbtnSlip_clicked();

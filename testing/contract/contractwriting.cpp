@@ -2,26 +2,51 @@
 //
 // What the driver is told: settings, the operator that was chosen, and that the properties are shown.
 
-#include "testing/contractrules.h"
+#include "testing/contract/contractkeys.h"
+#include "testing/contract/contractrules.h"
 #include "testing/settingsdocument.h"
-
-#include "text/drivertext.h"
 
 #include <algorithm>
 
 namespace {
 
+using namespace ContractKeys;
+
 const int MostOperators = 100; // more tell nothing new
 
-/// The entries, of which the last of a name counts.
-QMap<QString, QString> entriesOf(const QString &xml)
+/// Long, with markup, Cyrillic and a character beyond the first 65536.
+QString longText()
 {
-    QMap<QString, QString> entries;
-    const SettingsDocument document(xml);
-    for (const SettingsEntry &entry : document.entries()) {
-        entries.insert(entry.name, entry.text);
+    return QString(5000, QChar(0x416)) + QString::fromUtf8("\n<b>&amp;\"'%1%2]]>\U0001F4B3");
+}
+
+QString largest(const Key &key)
+{
+    const bool isText = key.kind == Kind::Text || key.kind == Kind::NotEmpty;
+    return wordsOf(key).value(0, isText ? longText() : QString::number(key.max, 'f', 0));
+}
+
+QString withKeys(const std::vector<Key> &keys)
+{
+    SettingsDocument document(QStringLiteral("<settings version=\"0\"/>"));
+    for (const Key &key : keys) {
+        document.setValue(QLatin1String(key.name), largest(key));
     }
-    return entries;
+    return document.toXml();
+}
+
+/// A document with every key of the guide, each with a value that is as large as it may be.
+QString fullSettings(const QString &protocol)
+{
+    SettingsDocument document(withKeys(DocumentKeys));
+    document.setValue(QStringLiteral("Protocol"), protocol);
+    document.setValue(QStringLiteral("PathAC"), QStringLiteral("/"));
+    document.setValue(QStringLiteral("Slip"), withKeys(SlipKeys));
+    document.setValue(QStringLiteral("Operators"), QStringLiteral("2"));
+    document.setValue(QStringLiteral("Operator0"), withKeys(OperatorKeys));
+    document.setValue(QStringLiteral("Operator1"), withKeys(OperatorKeys));
+    document.setValue(QString::fromUtf8("Свой ключ <&\">"), longText());
+    return rewritten(document.toXml(), "2");
 }
 
 /// Puts the settings back when a rule has had its calls, however they ended.
@@ -56,54 +81,7 @@ bool setAndRead(const ContractSession &session, const char *rule, const QString 
 
 } // namespace
 
-int ContractSession::command(const std::function<int()> &run) const
-{
-    const int result = attempt(run);
-    attempt([&] {
-        int number = 0;
-        return driver.getResultCode(&number);
-    });
-    if (result < 0) {
-        textOf("getResultDescription");
-        attempt([&] {
-            int number = 0;
-            return driver.getErrorDetail(&number);
-        });
-        textOf("getErrorDetailDescription");
-    }
-    return result;
-}
-
-int ContractSession::setSettings(const QString &xml) const
-{
-    const std::wstring text = xml.toStdWString();
-    return command([&] { return driver.setSettings(text.c_str()); });
-}
-
-QString ContractSession::textOf(const char *name) const
-{
-    const std::vector<TextGetter> getters = textGetters(driver);
-    const auto getter = std::find_if(getters.begin(), getters.end(), [&](const TextGetter &candidate) {
-        return QLatin1String(candidate.name) == QLatin1String(name);
-    });
-    std::vector<wchar_t> buffer(FirstBufferSize);
-    const DriverText::Lengths lengths = DriverText::read(
-        buffer, 1, [&](wchar_t *to, int size) { return attempt([&] { return getter->get(to, size); }); });
-    const bool isWhole = lengths.last >= 0 && static_cast<std::size_t>(lengths.last) <= buffer.size();
-    return isWhole ? QString::fromWCharArray(buffer.data(), lengths.last) : QString();
-}
-
-bool ContractSession::putBack() const
-{
-    const int result = setSettings(original.isEmpty() ? rewritten(original, "0") : original);
-    const bool isBack = result >= 0 && entriesOf(settings()) == entriesOf(original);
-    if (!isBack) {
-        report("set-put-back", Severity::Error, QStringLiteral("the settings were not put back"));
-    }
-    return isBack;
-}
-
-void showProperties(ContractSession &session)
+void probeProperties(ContractSession &session)
 {
     for (const int shown : {1, 0, 1, 0}) {
         const int result = session.command([&] { return session.driver.setPropertiesShown(shown); });
@@ -114,7 +92,7 @@ void showProperties(ContractSession &session)
     }
 }
 
-void showOperators(ContractSession &session)
+void probeOperators(ContractSession &session)
 {
     const auto choose = [&](int index) {
         return session.command([&] { return session.driver.setOperatorIndex(index); });
@@ -131,7 +109,7 @@ void showOperators(ContractSession &session)
     }
 }
 
-void showReadBack(ContractSession &session)
+void probeReadBack(ContractSession &session)
 {
     const PutBack putBack{session};
     QString protocol = SettingsDocument(session.original).value(QStringLiteral("Protocol"));
@@ -144,12 +122,12 @@ void showReadBack(ContractSession &session)
         }
     }
     if (setAndRead(session, "set-read-back", fullSettings(protocol))) {
-        showSettings(session);
+        probeSettings(session);
         setAndRead(session, "set-read-back", QStringLiteral("<settings version=\"2\"/>"));
     }
 }
 
-void showVersions(ContractSession &session)
+void probeVersions(ContractSession &session)
 {
     const PutBack putBack{session};
     for (const char *version : {"0", "2"}) {
@@ -157,7 +135,7 @@ void showVersions(ContractSession &session)
     }
 }
 
-void showAgain(ContractSession &session)
+void probeAgain(ContractSession &session)
 {
     const PutBack putBack{session};
     for (const QString &xml : {session.original, rewritten(session.original, "0")}) {
@@ -166,7 +144,7 @@ void showAgain(ContractSession &session)
     }
 }
 
-void showRefused(ContractSession &session)
+void probeRefused(ContractSession &session)
 {
     const PutBack putBack{session};
     const QString before = session.settings();
@@ -177,7 +155,7 @@ void showRefused(ContractSession &session)
     }
 }
 
-void showPutBack(ContractSession &session)
+void probePutBack(ContractSession &session)
 {
     session.putBack();
 }

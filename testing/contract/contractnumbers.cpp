@@ -2,7 +2,7 @@
 //
 // Getters of numbers; and what every operation costs in time and memory.
 
-#include "testing/contractrules.h"
+#include "testing/contract/contractrules.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -102,7 +102,7 @@ qint64 keptBy(const Call &call)
 
 } // namespace
 
-void showNumbers(ContractSession &session)
+void probeNumbers(ContractSession &session)
 {
     Driver &driver = session.driver;
     for (const Call &call : numberGetters(driver)) {
@@ -121,7 +121,7 @@ void showNumbers(ContractSession &session)
     }
 }
 
-void showMemory(ContractSession &session)
+void probeMemory(ContractSession &session)
 {
     Driver &driver = session.driver;
     std::vector<wchar_t> buffer(FirstBufferSize);
@@ -147,7 +147,7 @@ void showMemory(ContractSession &session)
     }
 }
 
-void showTimes(ContractSession &session)
+void probeTimes(ContractSession &session)
 {
     QStringList slowest = session.slowest.keys();
     std::sort(slowest.begin(), slowest.end(), [&](const QString &left, const QString &right) {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "testing/checkedpaycard.h"
 
-#include "testing/contractrules.h"
+#include "testing/contract/contractrules.h"
+#include "testing/driver/operations.h"
 #include "text/drivertext.h"
 
 #include <QElapsedTimer>
@@ -56,12 +57,6 @@ bool isCharacter(wchar_t character)
 bool isUntouched(wchar_t character)
 {
     return character == Untouched;
-}
-
-/// The operations that tell of the last failure, and so come between without being one.
-bool tellsOfFailure(const QString &operation)
-{
-    return operation.startsWith(QLatin1String("getResult")) || operation.startsWith(QLatin1String("getError"));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "testing/settingsfile.h"
+#include "testing/driver/settingsfile.h"
 
 #include <QDir>
 #include <QFile>

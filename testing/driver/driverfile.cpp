@@ -2,7 +2,7 @@
 //
 // The simulated driver's file. Apart from the driver, because Qt 4.8 has neither locks nor files to save in one go.
 
-#include "testing/settingsfile.h"
+#include "testing/driver/settingsfile.h"
 #include "testing/simulateddriver.h"
 
 std::shared_ptr<SettingsFile> SimulatedDriver::fileAt(const QString &path) const

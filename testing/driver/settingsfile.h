@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef SETTINGSFILE_H
-#define SETTINGSFILE_H
+#pragma once
 
 #include <QByteArray>
 #include <QLockFile>
@@ -32,5 +31,3 @@ private:
     QString place;
     QLockFile lockFile;
 };
-
-#endif

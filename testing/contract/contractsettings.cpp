@@ -2,100 +2,18 @@
 //
 // The settings document and what else the driver says of its settings.
 
-#include "testing/contractrules.h"
+#include "testing/contract/contractkeys.h"
+#include "testing/contract/contractrules.h"
 #include "testing/settingsdocument.h"
 
 #include <QSet>
-#include <QStringList>
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
-enum class Kind { Text, NotEmpty, Whole, Amount };
-
-/// A key of docs/settings.md.
-struct Key
-{
-    const char *name;
-    Kind kind = Kind::Text;
-    double min = 0.0;
-    double max = 0.0;
-    /// Words that are values, too, with bars between them.
-    const char *words = "";
-};
-
-const double WordsOnly = -1.0; // as maximum
-const double MaxCode = 999999999.0;
-const double MaxAmount = 10000000000.0;
-const double MaxPort = 65535.0;
-const char *const Speeds = "1200|2400|4800|9600|19200|38400|57600|115200";
-
-const std::vector<Key> DocumentKeys = {
-    {"Protocol", Kind::Whole, -1, MaxCode},
-    {"PathAC", Kind::Text, 0, 0, "/"},
-    {"Timeout", Kind::Whole, 0, 99},
-    {"Slip"},
-    {"Operators", Kind::Whole, 0, 100000},
-    {"URL"},
-    {"CheckTimeout", Kind::Whole, 0, 999},
-    {"UseProxy", Kind::Whole, 0, WordsOnly, "true|false"},
-    {"ProxyServer"},
-    {"ProxyPort", Kind::Whole, 0, MaxPort},
-    {"DealerCode", Kind::Whole, 0, MaxCode},
-    {"PointCode", Kind::Whole, 0, MaxCode},
-    {"OperatorCode", Kind::Whole, 0, MaxCode},
-    {"KeyLoadPwd"},
-    {"SerialKeyNumber", Kind::Whole, 0, MaxCode},
-    {"OpcodeCloseDay", Kind::Whole, 1, 99},
-    {"OpcodePrintJournal", Kind::Whole, 1, 99},
-    {"ModemMode", Kind::Whole, 0, 1},
-    {"TerminalID"},
-    {"Port", Kind::Whole, 0, 99, "TCPIP|USB|TTY"},
-    {"IPAddress"},
-    {"IPPort", Kind::Whole, 0, MaxPort},
-    {"Vid", Kind::Whole, 0, MaxPort},
-    {"Pid", Kind::Whole, 0, MaxPort},
-    {"TTYSuffix"},
-    {"BaudRate", Kind::Whole, 0, WordsOnly, Speeds},
-};
-
-const std::vector<Key> SlipKeys = {
-    {"Header"},
-    {"Footer"},
-    {"HideCard", Kind::Whole, 0, WordsOnly, "true"},
-};
-
-const std::vector<Key> OperatorKeys = {
-    {"Code", Kind::NotEmpty},
-    {"Name", Kind::NotEmpty},
-    {"MinSum", Kind::Amount, 0, MaxAmount},
-    {"MaxSum", Kind::Amount, 0, MaxAmount},
-    {"ComissionType", Kind::Whole, 0, 1},
-    {"ComissionAddition", Kind::Whole, 0, 2},
-    {"Comission", Kind::Amount, 0, MaxAmount},
-    {"Gateway"},
-    {"Param1", Kind::Whole, 0, 4},
-    {"Param2", Kind::Whole, 0, 4},
-    {"Mask1"},
-    {"Mask2"},
-    {"SumWareCode"},
-    {"ComissionWareCode"},
-    {"AddReqSum"},
-};
-
-/// Long, with markup, Cyrillic and a character beyond the first 65536.
-QString longText()
-{
-    return QString(5000, QChar(0x416)) + QString::fromUtf8("\n<b>&amp;\"'%1%2]]>\U0001F4B3");
-}
-
-QStringList wordsOf(const Key &key)
-{
-    return QString::fromLatin1(key.words).split(QLatin1Char('|'));
-}
+using namespace ContractKeys;
 
 bool fits(const Key &key, const QString &value)
 {
@@ -113,16 +31,7 @@ bool fits(const Key &key, const QString &value)
         number = value.toDouble(&isNumber);
         break;
     }
-    return (isNumber && number >= key.min && number <= key.max) || (!value.isEmpty() && wordsOf(key).contains(value));
-}
-
-QString largest(const Key &key)
-{
-    QString word = wordsOf(key).constFirst();
-    if (!word.isEmpty()) {
-        return word;
-    }
-    return key.kind == Kind::Text || key.kind == Kind::NotEmpty ? longText() : QString::number(key.max, 'f', 0);
+    return (isNumber && number >= key.min && number <= key.max) || wordsOf(key).contains(value);
 }
 
 /// The same for keys that are easily taken for each other.
@@ -209,15 +118,6 @@ void judgeDocument(const QString &xml, const QString &within, const std::vector<
     }
 }
 
-QString withKeys(const std::vector<Key> &keys)
-{
-    SettingsDocument document(QStringLiteral("<settings version=\"0\"/>"));
-    for (const Key &key : keys) {
-        document.setValue(QLatin1String(key.name), largest(key));
-    }
-    return document.toXml();
-}
-
 } // namespace
 
 void judgeSettings(const QString &xml, const ContractReport &report)
@@ -256,33 +156,7 @@ void judgeProtocols(const QString &choices, const ContractReport &report)
     }
 }
 
-QString rewritten(const QString &xml, const char *version)
-{
-    const SettingsDocument read(xml);
-    QMap<QString, QString> sorted;
-    for (const SettingsEntry &entry : read.entries()) {
-        sorted.insert(entry.name, entry.text);
-    }
-    SettingsDocument document(QStringLiteral("<settings version=\"%1\"/>").arg(QLatin1String(version)));
-    for (auto entry = sorted.cbegin(); entry != sorted.cend(); ++entry) {
-        document.setValue(entry.key(), entry.value());
-    }
-    return document.toXml();
-}
-
-QString fullSettings(const QString &protocol)
-{
-    SettingsDocument document(withKeys(DocumentKeys));
-    document.setValue(QStringLiteral("Protocol"), protocol);
-    document.setValue(QStringLiteral("Slip"), withKeys(SlipKeys));
-    document.setValue(QStringLiteral("Operators"), QStringLiteral("2"));
-    document.setValue(QStringLiteral("Operator0"), withKeys(OperatorKeys));
-    document.setValue(QStringLiteral("Operator1"), withKeys(OperatorKeys));
-    document.setValue(QString::fromUtf8("Свой ключ <&\">"), longText());
-    return rewritten(document.toXml(), "2");
-}
-
-void showSettings(ContractSession &session)
+void probeSettings(ContractSession &session)
 {
     const SettingsDocument document(session.settings());
     const QString protocol = QStringLiteral("Protocol");

@@ -2,7 +2,7 @@
 #include "testing/contractchecker.h"
 
 #include "testing/checkedpaycard.h"
-#include "testing/contractrules.h"
+#include "testing/contract/contractrules.h"
 #include "testing/settingsdocument.h"
 
 #include <algorithm>
@@ -41,7 +41,7 @@ QStringList ContractChecker::companions(const QString &rule)
 {
     QStringList names;
     for (const ContractRule &other : contractRules()) {
-        if (other.show == contractRule(rule).show) {
+        if (other.probe == contractRule(rule).probe) {
             names.append(QLatin1String(other.name));
         }
     }
@@ -81,7 +81,7 @@ QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
         session.original = settingsToKeep(session);
         session.mayWrite = !session.original.isNull();
     }
-    std::set<void (*)(ContractSession &)> shown;
+    std::set<void (*)(ContractSession &)> probes;
     for (const QString &name : wanted) {
         const ContractRule &rule = contractRule(name);
         if (onRule) {
@@ -90,8 +90,8 @@ QList<ContractFinding> ContractChecker::check(const QStringList &wanted)
         if (rule.writes && !session.mayWrite) {
             note(name, Severity::Skipped,
                  mayWrite ? QLatin1String("the settings could not be put back: they are not read well") : whyNotWrite);
-        } else if (shown.insert(rule.show).second) {
-            rule.show(session);
+        } else if (probes.insert(rule.probe).second) {
+            rule.probe(session);
         }
         seen[name]; // kept, if nothing was noted
         pending.removeOne(name);

@@ -2,7 +2,7 @@
 //
 // Getters of texts, and names of settings.
 
-#include "testing/contractrules.h"
+#include "testing/contract/contractrules.h"
 
 #include "text/drivertext.h"
 
@@ -10,15 +10,13 @@
 
 namespace {
 
-typedef int (NOX::PayCard::IPayCard::*TextMember)(wchar_t *, int);
-
 /// Room for `size` characters, and an address also for none.
 std::vector<wchar_t> bufferOf(int size)
 {
     return std::vector<wchar_t>(static_cast<std::size_t>(size) + 1);
 }
 
-void showText(const TextGetter &getter, const ContractReport &report)
+void probeText(const TextGetter &getter, const ContractReport &report)
 {
     const auto ask = [&](std::vector<wchar_t> &buffer, int size) {
         return ContractSession::attempt([&] { return getter.get(buffer.data(), size); });
@@ -59,41 +57,15 @@ void showText(const TextGetter &getter, const ContractReport &report)
 
 } // namespace
 
-std::vector<TextGetter> textGetters(NOX::PayCard::IPayCard &driver)
-{
-    typedef NOX::PayCard::IPayCard Driver;
-    const std::pair<const char *, TextMember> members[] = {
-        {"getVersion", &Driver::getVersion},
-        {"getDriverName", &Driver::getDriverName},
-        {"getResultDescription", &Driver::getResultDescription},
-        {"getErrorDetailDescription", &Driver::getErrorDetailDescription},
-        {"getSettings", &Driver::getSettings},
-        {"getPhoneNumber", &Driver::getPhoneNumber},
-        {"getReference", &Driver::getReference},
-        {"getAccountNumber", &Driver::getAccountNumber},
-        {"getOperatorName", &Driver::getOperatorName},
-    };
-    std::vector<TextGetter> getters;
-    for (const auto &member : members) {
-        const TextMember get = member.second;
-        getters.push_back({member.first, [&driver, get](wchar_t *to, int size) { return (driver.*get)(to, size); }});
-    }
-    getters.push_back({"getSettingValue(\"Protocol\")",
-                       [&](wchar_t *to, int size) { return driver.getSettingValue(L"Protocol", to, size); }});
-    getters.push_back({"getSettingChoices(\"Protocol\")",
-                       [&](wchar_t *to, int size) { return driver.getSettingChoices(L"Protocol", to, size); }});
-    return getters;
-}
-
-void showTexts(ContractSession &session)
+void probeTexts(ContractSession &session)
 {
     const std::vector<TextGetter> getters = textGetters(session.driver);
     for (const TextGetter &getter : getters) {
-        showText(getter, session.report);
+        probeText(getter, session.report);
     }
 }
 
-void showSettingNames(ContractSession &session)
+void probeSettingNames(ContractSession &session)
 {
     for (const wchar_t *name : {L"NoSuchSetting", L"Нет такой настройки", L"<&\">", L""}) {
         for (const char *operation : {"getSettingValue", "getSettingChoices"}) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "testing/simulateddriver.h"
 
+#include "testing/driver/operations.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
@@ -10,7 +12,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <cstring>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -38,12 +39,6 @@ QString describe(const Failure &failure)
 {
     const QString base = QStringLiteral("[%1] %2").arg(QString::number(failure.code), failure.text);
     return failure.detail.isEmpty() ? base : QStringLiteral("%1 (%2)").arg(base, failure.detail);
-}
-
-/// The operations that tell of the last failure: their own failures must not take its place.
-bool tellsOfFailure(const char *name)
-{
-    return std::strncmp(name, "getResult", 9) == 0 || std::strncmp(name, "getError", 8) == 0;
 }
 
 /// True for the call that has just been counted.
@@ -273,7 +268,7 @@ std::optional<int> SimulatedDriver::playFailure(const Call &call, wchar_t *buffe
               QStringLiteral("сбой «%1»: %2").arg(faults().at(static_cast<int>(failure.fault)), describe(failure)));
     switch (failure.fault) {
     case Fault::Refuse:
-        if (!tellsOfFailure(call.name)) {
+        if (!tellsOfFailure(QLatin1String(call.name))) {
             last = failure;
         }
         return -1;

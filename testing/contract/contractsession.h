@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef CONTRACTRULES_H
-#define CONTRACTRULES_H
+#pragma once
 
 #include "common/ipaycard.h"
 #include "testing/contractfinding.h"
@@ -8,12 +7,11 @@
 #include <QMap>
 #include <QString>
 
-#include <string>
 #include <vector>
 
 const int FirstBufferSize = 1024; ///< the library's
 
-/// A driver under check, and what the calls that show its rules share.
+/// A driver under check, and what the calls that probe it share.
 struct ContractSession
 {
     NOX::PayCard::IPayCard &driver; ///< looks at every call itself
@@ -42,21 +40,6 @@ struct ContractSession
     bool putBack() const;
 };
 
-/// A rule of the driver contract.
-struct ContractRule
-{
-    const char *name;
-    const char *place;    ///< section of the guides
-    const char *expected; ///< the sentence that stands there
-    bool writes;          ///< changes settings or the operator chosen, and puts the settings back
-    void (*show)(ContractSession &session);
-
-    ContractFinding finding(Severity severity, const QString &seen) const;
-};
-
-const std::vector<ContractRule> &contractRules();
-const ContractRule &contractRule(const QString &name);
-
 /// A getter of a text, and how it is called in findings.
 struct TextGetter
 {
@@ -65,28 +48,7 @@ struct TextGetter
 };
 std::vector<TextGetter> textGetters(NOX::PayCard::IPayCard &driver);
 
-// What one text shows.
-void judgeSettings(const QString &xml, const ContractReport &report);
-void judgeProtocols(const QString &choices, const ContractReport &report);
-
+/// The entries of a document, of which the last of a name counts.
+QMap<QString, QString> entriesOf(const QString &xml);
 /// The same entries in the form in which the library writes them.
 QString rewritten(const QString &xml, const char *version);
-/// A document with every key of the guide, each with a value that is as large as it may be.
-QString fullSettings(const QString &protocol);
-
-// The calls that show rules.
-void showTexts(ContractSession &session);
-void showSettingNames(ContractSession &session);
-void showNumbers(ContractSession &session);
-void showSettings(ContractSession &session);
-void showProperties(ContractSession &session);
-void showOperators(ContractSession &session);
-void showReadBack(ContractSession &session);
-void showVersions(ContractSession &session);
-void showAgain(ContractSession &session);
-void showRefused(ContractSession &session);
-void showPutBack(ContractSession &session);
-void showMemory(ContractSession &session);
-void showTimes(ContractSession &session);
-
-#endif

@@ -64,6 +64,10 @@ void createApplication()
 
 QCoreApplication *app()
 {
+    static const bool isReplaced = Toolkit::isReplaced();
+    if (isReplaced) {
+        return nullptr;
+    }
     // Of two threads that call at once the second must not find the object half made.
     static std::mutex mutex;
     const std::lock_guard<std::mutex> lock(mutex);

@@ -116,17 +116,17 @@ bool hasPlatform(const QString &platform)
 #endif
 }
 
-/// Non-zero for the core library of another major release.
-int isOtherToolkit(dl_phdr_info *object, std::size_t /*size*/, void * /*unused*/)
+/// True for the core library of another major release.
+bool isOtherToolkit(const char *file)
 {
     const char *const names[] = {"libQtCore.so.4", "libQt5Core.so.5", "libQt6Core.so.6"};
     const int own = (QT_VERSION >> 16) - 4;
     for (int i = 0; i < 3; ++i) {
-        if (i != own && object->dlpi_name && std::strstr(object->dlpi_name, names[i])) {
-            return 1;
+        if (i != own && file && std::strstr(file, names[i])) {
+            return true;
         }
     }
-    return 0;
+    return false;
 }
 
 bool isUsable(const QByteArray &platform)
@@ -144,7 +144,15 @@ bool isUsable(const QByteArray &platform)
 
 bool Toolkit::isOtherToolkitLoaded()
 {
-    return dl_iterate_phdr(isOtherToolkit, nullptr) != 0;
+    return dl_iterate_phdr([](dl_phdr_info *object, std::size_t /*size*/,
+                              void * /*unused*/) { return isOtherToolkit(object->dlpi_name) ? 1 : 0; },
+                           nullptr) != 0;
+}
+
+bool Toolkit::isReplaced()
+{
+    Dl_info function;
+    return dladdr(reinterpret_cast<void *>(&QCoreApplication::exec), &function) && isOtherToolkit(function.dli_fname);
 }
 
 bool Toolkit::hasDisplay()

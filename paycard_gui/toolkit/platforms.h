@@ -33,6 +33,10 @@ inline QString translationsDirectory()
 /// this one could not share the process with.
 bool isOtherToolkitLoaded();
 
+/// True when the functions that are called here are those of another major release. The symbols of the oldest one have
+/// no versions: where the host has loaded it before, they take the place of this one's, and nothing can be called.
+bool isReplaced();
+
 /// Whether an application object for widgets can be created: the toolkit ends the process that creates one
 /// without a display to connect to, or for a platform that it does not know. Needs no application object,
 /// starts no process, and leaves no connection behind.

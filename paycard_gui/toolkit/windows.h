@@ -93,15 +93,6 @@ inline void keepAboveActiveWindow(QWidget &window)
 #endif
 }
 
-inline QPixmap picture(QWidget &widget)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-    return widget.grab();
-#else
-    return QPixmap::grabWidget(&widget);
-#endif
-}
-
 /// Has a screen reader say the widget's text at once. Only the newest releases take the text itself along; of the
 /// others some bridges pass no more on than that the text has changed, which the label tells them itself.
 inline void announce(QWidget &widget, const QString &text)

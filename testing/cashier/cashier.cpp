@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "testing/cashier.h"
 
-#include "toolkit/windows.h"
-
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPixmap>
 #include <QStringList>
 
 namespace {
@@ -122,6 +121,15 @@ QString shownBy(const QWidget *widget)
     throw ModalScript::Impossible{QString::fromLatin1("\"%1\" shows no text of its own").arg(widget->objectName())};
 }
 
+QPixmap picture(QWidget &widget)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return widget.grab();
+#else
+    return QPixmap::grabWidget(&widget);
+#endif
+}
+
 } // namespace
 
 bool Cashier::tryPress(QWidget *window, const QString &button)
@@ -193,7 +201,7 @@ ModalScript::Step Cashier::read(const QString &widget, QString *text)
 ModalScript::Step Cashier::photograph(const QString &file)
 {
     return [=](QWidget *window) {
-        if (!Toolkit::picture(*window).save(file)) {
+        if (!picture(*window).save(file)) {
             throw ModalScript::Impossible{QString::fromLatin1("%1 cannot be written").arg(file)};
         }
     };

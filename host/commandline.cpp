@@ -197,7 +197,7 @@ Reader into(QList<QPair<QString, Failure>> &failures)
         }
         failures.append({operation, Failure()});
         Failure &failure = failures.last().second;
-        const QString problem = text.contains(':') ? assign(membersOf(failure), text.section(':', 1)) : QString();
+        QString problem = text.contains(':') ? assign(membersOf(failure), text.section(':', 1)) : QString();
         if (problem.isEmpty() && !failure.argument.isEmpty() && !SimulatedDriver::takesArgument(operation)) {
             return QString("у операции %1 нет аргумента").arg(operation);
         }

@@ -24,6 +24,7 @@ public:
     DialogAbout &operator=(const DialogAbout &) = delete;
     ~DialogAbout() override;
 
+    /// Fits the window to its texts, then as the base does.
     int exec() PAYCARD_OVERRIDES_EXEC;
 
     /// An empty name clears the line, whatever the version.

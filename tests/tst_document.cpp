@@ -132,6 +132,7 @@ void DocumentTest::roundTrip_data()
     same("white space", " \t ");
     same("line ends", "one\ntwo\r\nthree\rfour\n");
     same("beyond the first plane", QString::fromUtf8("Чек 😀 №1"));
+    same("no characters beyond the first plane", QString::fromWCharArray(L"\xFDD0 \x1FFFE \x10FFFF"));
     const auto cut = [](const char *name, const QString &text, const QString &kept) {
         QTest::newRow(name) << text << kept;
     };
@@ -147,9 +148,11 @@ void DocumentTest::roundTrip()
     QNoxSettings settings;
     settings.set("before", "1");
     settings.set("key" + text, text);
-    const QNoxSettings read(settings.toXml(0));
-    QCOMPARE(read.get("before").toString(), QString("1"));
-    QCOMPARE(read.get("key" + kept).toString(), kept);
+    for (const char *declaration : {"", "<?xml version=\"1.0\"?>"}) {
+        const QNoxSettings read(declaration + settings.toXml(0));
+        QCOMPARE(read.get("before").toString(), QString("1"));
+        QCOMPARE(read.get("key" + kept).toString(), kept);
+    }
 }
 
 void DocumentTest::reading_data()
@@ -178,6 +181,7 @@ void DocumentTest::reading_data()
     row("declaration of an unknown encoding and version", "<?xml version='1.7' encoding='koi-9'?><r><value/></r>", "=",
         5);
     row("malformed declaration", "<?xml encoding='UTF-8'?><r><value/></r>", "", 5);
+    row("byte order mark", "\xEF\xBB\xBF<?xml version='1.0'?><r><value name='x'>1</value></r>", "x=1", 5);
     row("blank before the declaration", " <?xml version='1.0'?><r><value/></r>", "", 5);
     row("entity", "<!DOCTYPE r [<!ENTITY e 'E'>]><r><value name='x'>&e;&e;</value></r>", readsEntities ? "x=EE" : "",
         5);

@@ -34,7 +34,7 @@ void setPseudoAttribute(QString &declaration, const char *attribute, const char 
 }
 
 /// The text has been decoded long since: whatever version and encoding its XML declaration names, it gets those
-/// that every release of the toolkit reads.
+/// that the toolkit reads.
 QString withPlainDeclaration(const QString &xml)
 {
     const auto end = xml.indexOf(QLatin1String("?>"));
@@ -43,7 +43,7 @@ QString withPlainDeclaration(const QString &xml)
     }
     QString declaration = xml.left(end);
     setPseudoAttribute(declaration, "version", "1.0");
-    setPseudoAttribute(declaration, "encoding", "UTF-8");
+    setPseudoAttribute(declaration, "encoding", Toolkit::XmlEncoding);
     return declaration + xml.mid(end);
 }
 
@@ -58,7 +58,7 @@ bool SettingsReader::read()
     }
     entries.clear();
     text = withPlainDeclaration(text);
-    reader.emplace(text);
+    reader.emplace(Toolkit::encodedXml(text));
     reader->setNamespaceProcessing(false);
     if (!boundEntities()) {
         return false;

@@ -115,6 +115,10 @@ public:
                 if (!takeEscape(*to)) {
                     return false;
                 }
+            } else if (c.isHighSurrogate() && xml.at(at + 1).isLowSurrogate()) {
+                *to = c;
+                *++to = xml.at(at + 1);
+                at += 2;
             } else if (isForbiddenInXml(c) || escapeOf(c, xml, at, inName)) {
                 return false;
             } else {

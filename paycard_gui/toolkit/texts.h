@@ -49,8 +49,8 @@ inline std::wstring wideText(const QString &text)
     return wide;
 }
 
-/// The text of characters of four bytes. Every release's own conversion takes many times as long, and the oldest one's
-/// knows no non-characters beyond the first plane. A byte order mark at the start is none of the text.
+/// The text of characters of four bytes. Every release's own conversion takes many times as long. A byte order mark at
+/// the start is none of the text.
 inline QString fromWideText(const wchar_t *wide, std::size_t length)
 {
     const wchar_t *const end = wide + length;
@@ -80,6 +80,22 @@ inline int typeOf(const QVariant &value)
     return value.userType();
 #endif
 }
+
+/// A document as the toolkit's reader takes it, and the encoding that its declaration has to name then. The UTF-8 of
+/// the oldest release has no non-characters.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+const char *const XmlEncoding = "UTF-8";
+inline const QString &encodedXml(const QString &xml)
+{
+    return xml;
+}
+#else
+const char *const XmlEncoding = "UTF-16LE";
+inline QByteArray encodedXml(const QString &xml)
+{
+    return QTextCodec::codecForName(XmlEncoding)->fromUnicode(xml);
+}
+#endif
 
 /// Bounds what one entity may unfold to, in characters. False where the release knows no bound.
 inline bool boundEntities(QXmlStreamReader &reader, int characters)

@@ -34,20 +34,15 @@ class DialogRescue : public QObject
 {
 public:
     explicit DialogRescue(QWidget *parent) : QObject(parent) {}
-    DialogRescue(const DialogRescue &) = delete;
-    DialogRescue &operator=(const DialogRescue &) = delete;
     ~DialogRescue() override
     {
-        if (!dialog) {
-            return;
-        }
-        const QList<QWidget *> widgets = dialog->findChildren<QWidget *>();
-        for (QWidget *widget : widgets) {
-            if (widget->isWindow()) {
-                widget->hide();
+        if (dialog) {
+            const QList<QDialog *> opened = dialog->findChildren<QDialog *>();
+            for (QDialog *window : opened) {
+                window->hide();
             }
+            dialog->setParent(nullptr, dialog->windowFlags());
         }
-        dialog->setParent(nullptr, dialog->windowFlags());
     }
 
     QPointer<QDialog> dialog;

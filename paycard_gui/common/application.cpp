@@ -32,11 +32,6 @@ const struct ApplicationObserver
     ~ApplicationObserver() { qRemovePostRoutine(noteEnd); }
 } observer;
 
-bool canCreateApplication()
-{
-    return !ending && !Toolkit::isOtherToolkitLoaded() && Toolkit::hasDisplay();
-}
-
 /// Keeps this library loaded to the end of the process.
 void pinLibrary()
 {
@@ -71,7 +66,7 @@ QCoreApplication *app()
     // Of two threads that call at once the second must not find the object half made.
     static std::mutex mutex;
     const std::lock_guard<std::mutex> lock(mutex);
-    if (!QCoreApplication::instance() && canCreateApplication()) {
+    if (!QCoreApplication::instance() && !ending && !Toolkit::isOtherToolkitLoaded() && Toolkit::hasDisplay()) {
         createApplication();
     }
     return QCoreApplication::instance();

@@ -20,8 +20,6 @@ public:
     /// For other modules of the family, in the toolkit's own colours.
     DialogAbout(const QString &driverName, const QString &driverVersion, const QString &guiName,
                 const QString &guiVersion, QWidget *parent);
-    DialogAbout(const DialogAbout &) = delete;
-    DialogAbout &operator=(const DialogAbout &) = delete;
     ~DialogAbout() override;
 
     /// Fits the window to its texts, then as the base does.

@@ -20,28 +20,30 @@ namespace {
 // thread comes here.
 std::map<const NoHelpButtonDialog *, std::exception_ptr> failures;
 
+template <class Dialog, class Fit>
+int run(const ScopedDialog<Dialog> &dialog, Fit fit)
+{
+    makeGuest(*dialog);
+    prepareInputs(*dialog);
+    fit(*dialog);
+    showOnTop(*dialog);
+    return dialog->exec();
+}
+
 QMessageBox::StandardButton runMessageBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
                                           const QString &text, QMessageBox::StandardButtons buttons,
                                           QMessageBox::StandardButton defaultButton)
 {
     ScopedDialog<QMessageBox> box(icon, title, text, buttons, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    makeGuest(*box);
     box->setDefaultButton(defaultButton);
-    prepareInputs(*box);
-    fitMessageBox(*box);
-    showOnTop(*box);
-    return static_cast<QMessageBox::StandardButton>(box->exec());
+    return static_cast<QMessageBox::StandardButton>(run(box, fitMessageBox));
 }
 
 /// True when the dialog was accepted (and still exists).
 template <class Dialog>
 bool runToAcceptance(const ScopedDialog<Dialog> &dialog)
 {
-    makeGuest(*dialog);
-    prepareInputs(*dialog);
-    fitToolkitDialog(*dialog);
-    showOnTop(*dialog);
-    return dialog->exec() == QDialog::Accepted && dialog;
+    return run(dialog, fitToolkitDialog) == QDialog::Accepted && dialog;
 }
 
 void prepareInput(QInputDialog &dialog, const QString &title, const QString &label)

@@ -188,10 +188,9 @@ int WStrToQCombo(QComboBox *combo, const wchar_t *mapping, const wchar_t *curren
 
     combo->clear();
     int selected = 0;
-    decltype(rest.size()) start = 0;
-    while (start < rest.size()) {
+    for (decltype(rest.size()) start = 0, end = 0; start < rest.size(); start = end + 1) {
         const auto colon = rest.indexOf(QLatin1Char(':'), start);
-        const auto end = colon < 0 ? -1 : rest.indexOf(QLatin1Char(';'), colon);
+        end = colon < 0 ? -1 : rest.indexOf(QLatin1Char(';'), colon);
         if (end < 0) {
             break;
         }
@@ -203,7 +202,6 @@ int WStrToQCombo(QComboBox *combo, const wchar_t *mapping, const wchar_t *curren
             selected = combo->count();
         }
         combo->addItem(rest.mid(colon + 1, end - colon - 1), key);
-        start = end + 1;
     }
     combo->setCurrentIndex(selected);
     combo->setEnabled(current != fixedKey);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "dialogs/cyberplatsettingsdialog.h"
 
-#include "forms/formutils.h"
-
 namespace {
 
 const QString UrlKey = QString::fromWCharArray(L"URL");
@@ -33,7 +31,7 @@ CyberPlatSettingsDialog::CyberPlatSettingsDialog(QNoxSettings &document, QWidget
     : SettingsDialog(document, parent)
 {
     ui.setupUi(this);
-    alignLabels(this);
+    alignLabels();
     setFields({
         textOrDefault(UrlKey, ui.leURL, tr("https://payments.cyberplat.example/cgi-bin/es")),
         textOrDefault(ProxyServerKey, ui.leProxyServer, tr("localhost")),

@@ -12,8 +12,6 @@ class InputBlock : public QObject
 {
 public:
     explicit InputBlock(QWidget *blocked);
-    InputBlock(const InputBlock &) = delete;
-    InputBlock &operator=(const InputBlock &) = delete;
     ~InputBlock() override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -2,7 +2,6 @@
 #include "dialogs/operatordialog.h"
 
 #include "common/qt_utils.h"
-#include "forms/formutils.h"
 #include "forms/mappinglist.h"
 #include "forms/operatorrecords.h"
 
@@ -28,8 +27,17 @@ const QString Mask2Key = QString::fromWCharArray(L"Mask2");
 OperatorDialog::OperatorDialog(QNoxSettings &record, QWidget *parent) : SettingsDialog(record, parent)
 {
     ui.setupUi(this);
-    alignLabels(this);
-    fillChoices();
+    alignLabels();
+    const QString types = numberedMapping(tr("%1:Сумма;%2:Процент;"), 2);
+    const QString additions = numberedMapping(tr("%1:Включена в сумму;%2:Добавляется к сумме;%3:Запрос к кассиру;"), 3);
+    const QString parameters =
+        numberedMapping(tr("%1:Не запрашивается;%2:Номер счета;%3:Номер телефона;%4:Логин;%5:Код;"), 5);
+    strToComboBox(ui.cmbCommissionType, types, false);
+    strToComboBox(ui.cmbCommissionAddition, additions, false);
+    strToComboBox(ui.cmbParam1, parameters, false);
+    strToComboBox(ui.cmbParam2, parameters, false);
+    // The widest of them is in the right column; the inputs of the left one are to be as wide.
+    ui.cmbParam1->setMinimumWidth(ui.cmbCommissionAddition->sizeHint().width());
 
     const QString mask = QString::fromLatin1("(999)999-99-99");
     setFields({
@@ -50,20 +58,6 @@ OperatorDialog::OperatorDialog(QNoxSettings &record, QWidget *parent) : Settings
     });
     loadAndCheck();
     adjustSize();
-}
-
-void OperatorDialog::fillChoices()
-{
-    const QString types = numberedMapping(tr("%1:Сумма;%2:Процент;"), 2);
-    const QString additions = numberedMapping(tr("%1:Включена в сумму;%2:Добавляется к сумме;%3:Запрос к кассиру;"), 3);
-    const QString parameters =
-        numberedMapping(tr("%1:Не запрашивается;%2:Номер счета;%3:Номер телефона;%4:Логин;%5:Код;"), 5);
-    strToComboBox(ui.cmbCommissionType, types, false);
-    strToComboBox(ui.cmbCommissionAddition, additions, false);
-    strToComboBox(ui.cmbParam1, parameters, false);
-    strToComboBox(ui.cmbParam2, parameters, false);
-    // The widest of them is in the right column; the inputs of the left one are to be as wide.
-    ui.cmbParam1->setMinimumWidth(ui.cmbCommissionAddition->sizeHint().width());
 }
 
 void OperatorDialog::checkState()

@@ -15,7 +15,5 @@ public:
     void checkState() override;
 
 private:
-    void fillChoices();
-
     Ui_OperatorDialog ui;
 };

@@ -3,7 +3,6 @@
 
 #include "common/qnoxsettings.h"
 #include "common/qt_utils.h"
-#include "forms/formutils.h"
 #include "ui_arcus2ormasettingsdialog.h"
 #include "ui_inpasormasettingsdialog.h"
 #include "ui_sberbankormasettingsdialog.h"
@@ -92,7 +91,7 @@ void OrmaSettingsDialog::fillForm(QComboBox *ports, QStackedWidget *pages, const
     portBox = ports;
     pageStack = pages;
     portKinds = kinds;
-    alignLabels(this);
+    alignLabels();
     QString choices;
     for (const PortKind &kind : portKinds) {
         choices += kind.choices;

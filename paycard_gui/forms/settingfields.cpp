@@ -107,31 +107,16 @@ SettingField::SettingField(const QString &name, QComboBox *combo, const QString 
 {
 }
 
-void SettingField::load(const QNoxSettings &settings) const
-{
-    show(settings.get(key, def));
-}
-
-void SettingField::save(QNoxSettings &settings) const
-{
-    settings.set(key, value());
-}
-
-void SettingField::watch(QObject *receiver, const char *slot) const
-{
-    QObject::connect(widget, changed, receiver, slot);
-}
-
 void loadFields(const SettingFields &fields, const QNoxSettings &settings)
 {
     for (const SettingField &field : fields) {
-        field.load(settings);
+        field.show(settings.get(field.key, field.def));
     }
 }
 
 void saveFields(const SettingFields &fields, QNoxSettings &settings)
 {
     for (const SettingField &field : fields) {
-        field.save(settings);
+        settings.set(field.key, field.value());
     }
 }

@@ -17,9 +17,8 @@ class QWidget;
 
 /// One setting of a form: its key, the widget that edits it, and its value while the document has none. The
 /// widget, which must outlive the field, decides the type that is stored.
-class SettingField
+struct SettingField
 {
-public:
     SettingField(const QString &key, QLineEdit *edit, const QString &def = QString());
     SettingField(const QString &key, QSpinBox *spin, int def = 0);
     SettingField(const QString &key, QDoubleSpinBox *spin, double def = 0.0);
@@ -34,12 +33,6 @@ public:
     SettingField(const QString &key, QWidget *widget, const char *changed, std::function<void(const QVariant &)> show,
                  std::function<QVariant()> value, const QVariant &def = QVariant());
 
-    void load(const QNoxSettings &settings) const;
-    void save(QNoxSettings &settings) const;
-    /// Has the slot called whenever the widget shows another value.
-    void watch(QObject *receiver, const char *slot) const;
-
-private:
     QString key;
     QWidget *widget;
     const char *changed;

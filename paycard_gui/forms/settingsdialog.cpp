@@ -10,8 +10,6 @@
 
 SettingsDialog::SettingsDialog(QNoxSettings &document, QWidget *parent) : FormDialog(parent), settings(document) {}
 
-SettingsDialog::~SettingsDialog() = default;
-
 void SettingsDialog::loadSettings()
 {
     loadFields(fields, settings);
@@ -47,7 +45,7 @@ void SettingsDialog::setFields(SettingFields table)
 {
     fields = std::move(table);
     for (const SettingField &field : fields) {
-        field.watch(this, SLOT(noteChange()));
+        connect(field.widget, field.changed, SLOT(noteChange()));
     }
 }
 

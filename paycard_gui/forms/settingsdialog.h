@@ -18,7 +18,6 @@ class SettingsDialog : public FormDialog
 public:
     /// The document must outlive the dialog.
     SettingsDialog(QNoxSettings &document, QWidget *parent);
-    ~SettingsDialog() override;
 
     virtual void loadSettings();
     virtual void saveSettings();

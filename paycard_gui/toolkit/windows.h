@@ -39,12 +39,6 @@ inline double pixelRatio(const QWidget &widget)
 #endif
 }
 
-/// Whether the widget's pixels are not whole numbers of the screen's.
-inline bool isScaledByFraction(const QWidget &widget)
-{
-    return pixelRatio(widget) != static_cast<int>(pixelRatio(widget));
-}
-
 /// The picture of this file in as many pixels as the widget's screen has for it: from the file of double size beside
 /// it.
 inline QPixmap sharpened(const QPixmap &picture, const QString &file, const QWidget &widget)

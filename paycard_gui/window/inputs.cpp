@@ -37,13 +37,6 @@ bool takesPlainNumber(const QAbstractSpinBox &spin)
            spin.property("prefix").toString().isEmpty() && spin.specialValueText().isEmpty();
 }
 
-/// Decimals that the input takes.
-int decimalsOf(const QAbstractSpinBox &spin)
-{
-    const QDoubleSpinBox *number = qobject_cast<const QDoubleSpinBox *>(&spin);
-    return number ? number->decimals() : 0;
-}
-
 /// Removes the blanks around the text and those between its thousands. False when a blank is anywhere else.
 bool removeBlanks(QString &text, int &position)
 {
@@ -98,7 +91,8 @@ public:
                 return Invalid;
             }
         }
-        const int decimals = decimalsOf(*spin);
+        const QDoubleSpinBox *number = qobject_cast<const QDoubleSpinBox *>(spin);
+        const int decimals = number ? number->decimals() : 0;
         if (separator >= 0 && text.size() - separator - 1 > decimals) {
             return Invalid;
         }

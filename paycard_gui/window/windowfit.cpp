@@ -12,6 +12,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -34,13 +35,6 @@ QSize roomFor(const QWidget &window)
     return Toolkit::availableGeometry(window).size() - frameOf(window);
 }
 
-/// Width that the title takes between the buttons of its bar. Its font, often a bold one, is a quarter wider at most.
-int titleWidth(const QWidget &window)
-{
-    return window.fontMetrics().boundingRect(window.windowTitle()).width() * 5 / 4 +
-           4 * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-}
-
 /// The size that the layout asks for, which sees to wrapped texts once it is given a width.
 QSize sizeFor(const QWidget &window, const QSize &size)
 {
@@ -58,27 +52,24 @@ void resizeAll(QWidget &window, const QSize &size)
     window.layout()->activate();
 }
 
-/// Grows by what is missing, as far as there is room.
-void growBy(QWidget &window, int width, int height)
-{
-    const QSize size = window.size() + QSize(std::max(width, 0), std::max(height, 0));
-    resizeAll(window, size.boundedTo(roomFor(window)).expandedTo(window.size()));
-}
-
 /// Grows until the area hides nothing. Its view has no size of its own before it is shown.
 void growToShow(QWidget &window, const QScrollArea &area)
 {
+    const auto growBy = [&window](int width, int height) {
+        const QSize size = window.size() + QSize(std::max(width, 0), std::max(height, 0));
+        resizeAll(window, size.boundedTo(roomFor(window)).expandedTo(window.size()));
+    };
     const QWidget *contents = area.widget();
     const QLayout *layout = contents->layout();
     const int width = contents->minimumSizeHint().width();
-    growBy(window, width - area.width(), 0);
+    growBy(width - area.width(), 0);
     const int height = layout && layout->hasHeightForWidth()
                            ? layout->totalHeightForWidth(std::max(width, area.width()))
                            : contents->minimumSizeHint().height();
     // Either bar takes from the room in the other direction.
     const QSize bars(area.verticalScrollBar()->sizeHint().width(), area.horizontalScrollBar()->sizeHint().height());
-    growBy(window, 0, height + (width > area.width() ? bars.height() : 0) - area.height());
-    growBy(window, width + (height > area.height() ? bars.width() : 0) - area.width(), 0);
+    growBy(0, height + (width > area.width() ? bars.height() : 0) - area.height());
+    growBy(width + (height > area.height() ? bars.width() : 0) - area.width(), 0);
 }
 
 /// Has the area take the place of a widget.
@@ -204,7 +195,8 @@ void fitMessageBox(QMessageBox &box)
         layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
     }
     const int over = layout->totalHeightForWidth(width) - room.height();
-    if (over > 0 || Toolkit::isScaledByFraction(box)) {
+    const double ratio = Toolkit::pixelRatio(box);
+    if (over > 0 || ratio != std::floor(ratio)) {
         resizeAll(box, QSize(width, room.height()));
         const int highest = std::max(label->heightForWidth(label->width()) - over, box.fontMetrics().height());
         new TextArea(label, &box, QSize(label->width(), highest));
@@ -241,9 +233,11 @@ void fitForm(QWidget &window)
     }
     layout->activate();
     const QSize room = roomFor(window);
-    const int title = std::min(titleWidth(window), room.width());
+    // The title between the buttons of its bar. Its font, often a bold one, is a quarter wider at most.
+    const int title = window.fontMetrics().boundingRect(window.windowTitle()).width() * 5 / 4 +
+                      4 * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
     if (title > layout->totalMinimumSize().width()) {
-        window.setMinimumWidth(title);
+        window.setMinimumWidth(std::min(title, room.width()));
     }
     const QSize needed = sizeFor(window, QSize());
     if (needed.boundedTo(room) != needed) {

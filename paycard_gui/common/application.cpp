@@ -27,8 +27,6 @@ void noteEnd()
 const struct ApplicationObserver
 {
     ApplicationObserver() { qAddPostRoutine(noteEnd); }
-    ApplicationObserver(const ApplicationObserver &) = delete;
-    ApplicationObserver &operator=(const ApplicationObserver &) = delete;
     ~ApplicationObserver() { qRemovePostRoutine(noteEnd); }
 } observer;
 

@@ -20,8 +20,6 @@ public:
     Exception(const QString &message);
     /// `text` is UTF-8.
     Exception(const char *text);
-    Exception(const Exception &) = default;
-    Exception &operator=(const Exception &) = default;
     ~Exception() override;
 
     /// The message in UTF-8. The pointer is good until the next call on this object or its end.
@@ -39,8 +37,6 @@ class PAYCARD_EXPORT DeviceNotFoundException : public Exception
 {
 public:
     DeviceNotFoundException();
-    DeviceNotFoundException(const DeviceNotFoundException &) = default;
-    DeviceNotFoundException &operator=(const DeviceNotFoundException &) = default;
     ~DeviceNotFoundException() override;
 };
 

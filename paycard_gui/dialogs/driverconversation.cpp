@@ -22,9 +22,9 @@ InputBlock::~InputBlock()
 
 bool InputBlock::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == window && event->type() == QEvent::Close) {
+    const bool closes = watched == window && event->type() == QEvent::Close;
+    if (closes) {
         event->ignore();
-        return true;
     }
-    return QObject::eventFilter(watched, event);
+    return closes;
 }

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
+#include <QLibrary>
 #include <QList>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
@@ -19,37 +20,20 @@
 
 namespace {
 
-/// A library that the platform's own plugin needs, too, so that this one need not depend on it.
-class ClientLibrary
+/// A function of a library that the platform's own plugin needs, too, so that this one need not depend on it. Null when
+/// there is none.
+template <class Function>
+Function *function(const char *library, const char *name)
 {
-public:
-    explicit ClientLibrary(const char *name) : handle(dlopen(name, RTLD_NOW | RTLD_LOCAL)) {}
-    ClientLibrary(const ClientLibrary &) = delete;
-    ClientLibrary &operator=(const ClientLibrary &) = delete;
-    ~ClientLibrary()
-    {
-        if (handle) {
-            dlclose(handle);
-        }
-    }
-
-    /// Null when there is no such function.
-    template <class Function>
-    Function *function(const char *name) const
-    {
-        return handle ? reinterpret_cast<Function *>(dlsym(handle, name)) : nullptr;
-    }
-
-private:
-    void *handle;
-};
+    return reinterpret_cast<Function *>(QLibrary::resolve(QString::fromLatin1(library), name));
+}
 
 bool canConnectToX()
 {
-    const ClientLibrary library("libxcb.so.1");
-    const auto connect = library.function<void *(const char *, int *)>("xcb_connect");
-    const auto hasError = library.function<int(void *)>("xcb_connection_has_error");
-    const auto disconnect = library.function<void(void *)>("xcb_disconnect");
+    const char *const library = "libxcb.so.1";
+    const auto connect = function<void *(const char *, int *)>(library, "xcb_connect");
+    const auto hasError = function<int(void *)>(library, "xcb_connection_has_error");
+    const auto disconnect = function<void(void *)>(library, "xcb_disconnect");
     if (!connect || !hasError || !disconnect) {
         return false;
     }
@@ -62,9 +46,9 @@ bool canConnectToX()
 
 bool canConnectToWayland()
 {
-    const ClientLibrary library("libwayland-client.so.0");
-    const auto connect = library.function<void *(const char *)>("wl_display_connect");
-    const auto disconnect = library.function<void(void *)>("wl_display_disconnect");
+    const char *const library = "libwayland-client.so.0";
+    const auto connect = function<void *(const char *)>(library, "wl_display_connect");
+    const auto disconnect = function<void(void *)>(library, "wl_display_disconnect");
     void *connection = connect && disconnect ? connect(nullptr) : nullptr;
     if (connection) {
         disconnect(connection);

@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOptionComboBox>
 #include <QTextEdit>
@@ -176,6 +177,14 @@ QStringList tabProblems(const QWidget *window)
             problems += QString("Tab goes back from %1 to %2").arg(last->objectName(), next->objectName());
         }
         last = next;
+    }
+    const QList<QScrollArea *> areas = window->findChildren<QScrollArea *>();
+    for (const QScrollArea *area : areas) {
+        // Only a text that is longer than its area is scrolled with the keyboard.
+        const bool isText = qobject_cast<QLabel *>(area->widget()) && area->verticalScrollBar()->maximum() > 0;
+        if (area->isVisible() && area->focusPolicy() & Qt::TabFocus && !isText) {
+            problems += "Tab goes to what only scrolls";
+        }
     }
     for (const QWidget *widget : unreached) {
         problems += widget->objectName() + " is not reached by Tab";

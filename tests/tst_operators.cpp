@@ -28,6 +28,8 @@ void OperatorsTest::list()
         QListWidget *list = child<QListWidget>(window, "lwOperators");
         QCOMPARE(list->count(), 3);
         QCOMPARE(list->item(1)->text(), QString());
+        // Written anew, not as it was read.
+        QCOMPARE(list->item(1)->data(Qt::UserRole).toString(), QNoxSettings().toXml(0));
         QVERIFY(!enabled(window, "pbtnEdit") && !enabled(window, "pbtnDelete"));
         list->setCurrentRow(0);
         QVERIFY(enabled(window, "pbtnEdit") && enabled(window, "pbtnDelete"));

@@ -160,7 +160,10 @@ void ToolkitTest::messageBoxes()
     QCOMPARE(shown, QString("T|t|%1").arg(int(buttons)));
     QVERIFY(!isDefault);
     QCOMPARE(icon, QMessageBox::Warning);
-    answer(QMessageBox::Ok, [] { return NoHelpButtonMessageBox::information(nullptr, "T", "t"); });
+    // Whole, however long it is.
+    const QString lines = QString("строка\n").repeated(200);
+    answer(QMessageBox::Ok, [&] { return NoHelpButtonMessageBox::information(nullptr, "T", lines); });
+    QCOMPARE(shown, QString("T|%1|%2").arg(lines).arg(int(QMessageBox::Ok)));
     QCOMPARE(icon, QMessageBox::Information);
     // Closing it answers with the button that the toolkit's own has for that.
     const int closed = answer(QMessageBox::NoButton, [] { return QMessageBox::question(nullptr, "T", "t"); });

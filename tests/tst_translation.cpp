@@ -11,6 +11,7 @@ class TranslationTest : public QObject
 private slots:
     void complete();
     void takenWithEachWindow();
+    void lastSemicolon();
 };
 
 namespace {
@@ -92,6 +93,29 @@ void TranslationTest::takenWithEachWindow()
         QCOMPARE(
             shop.run(ShowProperties, {press("pbtnSettingsButton"), look, press("pbtnCancel"), press("pbtnCancel")}), 0);
     }
+}
+
+/// Leaves out what is usual but not required.
+class TerseTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        const QString own = QString::fromUtf8(text);
+        return own.startsWith("%1:") && own.endsWith(';') ? own.chopped(1) : QString();
+    }
+};
+
+void TranslationTest::lastSemicolon()
+{
+    TerseTranslator terse;
+    QCoreApplication::installTranslator(&terse);
+    Register shop;
+    shop.driver.operation.sum = 100;
+    const auto last = [](QWidget *window) { child<QComboBox>(window, "cmbCommissionAddition")->setCurrentIndex(1); };
+    QCOMPARE(shop.run(CommissionAddition, {last, press("pbtnOk")}), 2);
+    QCoreApplication::removeTranslator(&terse);
 }
 
 QTEST_MAIN(TranslationTest)

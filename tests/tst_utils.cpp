@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QListWidget>
+#include <QSignalSpy>
 
 class UtilsTest : public QObject
 {
@@ -114,6 +115,7 @@ void UtilsTest::deviceList()
 {
     QListWidget list;
     list.addItem("kept");
+    QSignalSpy changes(&list, SIGNAL(itemChanged(QListWidgetItem *)));
     QCOMPARE(WStrToQListWidget(&list, "TTY$0:COM1;USB:USB;$BT$1:Two;TTY$1$2:Three"), 0);
     QStringList seen;
     for (int i = 1; i < list.count(); ++i) {
@@ -122,6 +124,7 @@ void UtilsTest::deviceList()
         seen +=
             item->text() + '=' + item->data(Qt::UserRole).toString() + '/' + item->data(Qt::UserRole + 1).toString();
     }
+    QCOMPARE(changes.size(), 0);
     QCOMPARE(seen.join(" "), QString("COM1=TTY/0 USB=USB/ Two=BT/ Three=TTY/"));
 }
 
@@ -167,6 +170,7 @@ void UtilsTest::wideTexts()
     QCOMPARE(buffer, std::vector<wchar_t>(1));
     QCOMPARE(QStringToWChar(QString::fromUtf8("Ж😀"), buffer), 2);
     QCOMPARE(std::wstring(buffer.data()), std::wstring(L"Ж😀"));
+    QCOMPARE(buffer.size(), std::size_t(4)); // a pair of surrogates counts as two
 }
 
 void UtilsTest::settingQueries()

@@ -216,7 +216,7 @@ inline std::vector<Breakage> breakages()
          }},
         {"slow", "time",
          B::text(version,
-                 [slept = false](Answer &) mutable { QThread::msleep(std::exchange(slept, true) ? 0 : 450); })},
+                 [slept = false](Answer &) mutable { QThread::msleep(std::exchange(slept, true) ? 0 : 150); })},
         {"throws", "no-throw", B::fault("getSum", Fault::ThrowStandard)},
         {"throws a number", "no-throw", B::fault(version, Fault::ThrowOther)},
         {"nothing written", "text-closed", B::fault(version, Fault::NoText)},

@@ -69,7 +69,7 @@ void ContractTest::breaks()
     const QString before = driver.simulated.settings();
     ContractChecker checker(driver);
     checker.mayWrite = true;
-    checker.mostTime = 400; // sanitizers are slow
+    checker.mostTime = breakage.rules == QLatin1String("time") ? 100 : 60000; // a machine may be slow
     QStringList broken;
     QString seen;
     // That of memory takes its time, and is held apart.
@@ -197,7 +197,7 @@ void ContractTest::program()
     for (const bool asJson : {false, true}) {
         QProcess process;
         process.start(PAYCARD_CHECK, (asJson ? QStringList("--json") : QStringList()) + arguments);
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(-1));
         const QByteArray output = process.readAllStandardOutput();
         const QByteArray errors = process.readAllStandardError();
         QTEST(process.exitCode(), "exitCode");

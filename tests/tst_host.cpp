@@ -60,7 +60,7 @@ void HostTest::commandLine()
         QProcess host;
         host.setProcessChannelMode(QProcess::MergedChannels);
         host.start(PAYCARD_HOST, QString(row.arguments).split(' '));
-        QVERIFY(host.waitForFinished() && host.exitStatus() == QProcess::NormalExit);
+        QVERIFY(host.waitForFinished(-1) && host.exitStatus() == QProcess::NormalExit);
         const QString output = QString::fromUtf8(host.readAll());
         QVERIFY2(host.exitCode() == row.code && output.contains(row.said), qPrintable(row.arguments + ('\n' + output)));
     }

@@ -203,6 +203,36 @@ void BridgeTest::failures()
 
 namespace {
 
+QVariantList contents(QWidget *window)
+{
+    QVariantList all;
+    const QList<QWidget *> widgets = window->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        all << widget->property("text") << widget->property("currentIndex");
+    }
+    return all;
+}
+
+/// Sends every widget keys and text, as a host's own on-screen keyboard does.
+void typeEverywhere(QWidget *window, QWidget * /*parent*/)
+{
+    const QVariantList before = contents(window);
+    const QList<QWidget *> widgets = window->findChildren<QWidget *>() << window;
+    for (QWidget *widget : widgets) {
+        if (!widget->isVisible()) {
+            continue;
+        }
+        for (const Qt::Key code : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Down, Qt::Key_X}) {
+            QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, "x");
+            QApplication::sendEvent(widget, &press);
+        }
+        QInputMethodEvent text;
+        text.setCommitString("x");
+        QApplication::sendEvent(widget, &text);
+    }
+    QCOMPARE(contents(window), before);
+}
+
 /// What can happen while a driver runs an event loop of its own in one of its operations.
 const struct
 {
@@ -210,7 +240,7 @@ const struct
     void (*happens)(QWidget *window, QWidget *parent);
 } Intrusions[] = {
     {"parent deleted", [](QWidget * /*window*/, QWidget *parent) { delete parent; }},
-    {"Enter", [](QWidget *window, QWidget * /*parent*/) { QTest::keyClick(window, Qt::Key_Return); }},
+    {"keys", typeEverywhere},
     {"window closed", [](QWidget *window, QWidget * /*parent*/) { window->close(); }},
     {"all windows closed", [](QWidget * /*window*/, QWidget * /*parent*/) { QApplication::closeAllWindows(); }},
 };

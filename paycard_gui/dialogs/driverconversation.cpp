@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "dialogs/driverconversation.h"
 
+#include <QApplication>
 #include <QEvent>
 
 InputBlock::InputBlock(QWidget *blocked) : window(blocked), focus(blocked->focusWidget())
 {
-    window->installEventFilter(this);
+    qApp->installEventFilter(this);
     window->setEnabled(false);
 }
 
@@ -22,9 +23,14 @@ InputBlock::~InputBlock()
 
 bool InputBlock::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool closes = watched == window && event->type() == QEvent::Close;
-    if (closes) {
+    const QWidget *widget = qobject_cast<QWidget *>(watched);
+    const QEvent::Type type = event->type();
+    // A disabled widget takes what the host's own keyboard sends it: text with every release, keys with the oldest.
+    const bool isBlocked = window && widget && widget->window() == window &&
+                           (type == QEvent::Close || type == QEvent::KeyPress || type == QEvent::KeyRelease ||
+                            type == QEvent::InputMethod);
+    if (isBlocked) {
         event->ignore();
     }
-    return closes;
+    return isBlocked;
 }

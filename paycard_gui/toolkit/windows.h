@@ -8,6 +8,7 @@
 
 #if QT_VERSION < QT_VERSION_CHECK(5, 14, 0)
 #include <QDesktopWidget>
+#include <QPointer>
 #endif
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
@@ -86,6 +87,50 @@ inline void keepAboveActiveWindow(QWidget &window)
     window.setWindowFlags(window.windowFlags() | (active->windowFlags() & Qt::WindowStaysOnTopHint));
 #endif
 }
+
+/// Has a window get the keyboard once it is shown, and the one before it get it back, where no window manager sees to
+/// it.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+inline void passKeyboard(QWidget & /*window*/) {}
+#else
+class KeyboardPassing : public QObject
+{
+public:
+    explicit KeyboardPassing(QWidget *shown) : QObject(shown), window(shown), before(QApplication::activeWindow())
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject * /*window*/, QEvent *event) override
+    {
+        QWidget *next = nullptr;
+        if (event->type() == QEvent::Paint && !painted) {
+            // It is on the screen.
+            painted = true;
+            next = window;
+        } else if (event->type() == QEvent::Hide) {
+            next = before;
+        }
+        // A window manager would have put a frame around it.
+        if (next && window->frameGeometry() == window->geometry()) {
+            next->activateWindow();
+            // The server says so later, maybe after the host's next call.
+            QApplication::setActiveWindow(next);
+        }
+        return false;
+    }
+
+private:
+    QWidget *window;
+    const QPointer<QWidget> before;
+    bool painted = false;
+};
+
+inline void passKeyboard(QWidget &window)
+{
+    new KeyboardPassing(&window);
+}
+#endif
 
 /// Has a screen reader say the widget's text at once. Only the newest releases take the text itself along; of the
 /// others some bridges pass no more on than that the text has changed, which the label tells them itself.

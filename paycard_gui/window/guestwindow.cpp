@@ -39,5 +39,6 @@ void makeGuest(QWidget &window)
 void showOnTop(QWidget &window)
 {
     Toolkit::keepAboveActiveWindow(window);
+    Toolkit::passKeyboard(window);
     keepAboveKeyboard(window);
 }

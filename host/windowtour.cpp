@@ -6,6 +6,7 @@
 #include "testing/simulateddriver.h"
 #include "toolkit/windows.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLayout>
@@ -43,9 +44,9 @@ Move open(const QString &button)
 /// A window and the way to it: from the entry point over the moves.
 struct Scene
 {
+    /// That of the window's form goes in front where it is empty or begins with a hyphen.
     QString name;
     QString function;
-    QString sample;
     QList<Move> moves = {};
     QMap<QString, QString> settings = {};
     std::function<void(SimulatedDriver &)> prepare = nullptr;
@@ -74,16 +75,16 @@ QMap<QString, QString> protocol(int number)
     return settings;
 }
 
-/// The settings of a protocol, and what they look like on a page of their own.
-Scene protocolScene(const QString &name, int number, const QList<Move> &moves = {})
+/// The settings of a protocol.
+Scene protocolScene(int number, const QString &name = {}, const QList<Move> &moves = {})
 {
-    const QString sample = number == 11 ? "sberbank" : "arcus2";
-    return {name, "ShowProperties", sample, QList<Move>{open("pbtnSettingsButton")} + moves, protocol(number)};
+    return {name, "ShowProperties", QList<Move>{open("pbtnSettingsButton")} + moves, protocol(number)};
 }
 
-Scene sberbankScene(const QString &page, const QString &port)
+/// What they look like with a port that has a page of its own.
+Scene portScene(const QString &name, const QString &port)
 {
-    Scene scene = protocolScene("terminal-sberbank-" + page, 11);
+    Scene scene = protocolScene(11, name);
     scene.settings.insert("Port", port);
     return scene;
 }
@@ -91,54 +92,57 @@ Scene sberbankScene(const QString &page, const QString &port)
 QList<Scene> scenes()
 {
     const QString properties = "ShowProperties";
-    const QString shop = "cyberplat";
     const Failure throwing = {Fault::ThrowStandard, 0, "сбой", QString()};
     const auto refund = [](SimulatedDriver &driver) { driver.operation.code = 1; };
     const auto longAccount = [](SimulatedDriver &driver) { driver.operation.account = longText(); };
     return {
-        {"confirmation-card", "ConfirmPayment", "arcus2", {}, protocol(0), refund},
-        {"confirmation-services", "ConfirmPayment", shop},
-        {"confirmation-long", "ConfirmPayment", shop, {}, {}, longAccount},
-        {"confirmation-failed", "ConfirmPayment", shop, {}, {}, failing("getSum", throwing)},
-        {"select-operator", "SelectOperator", shop},
-        {"commission", "CommissionAddition", shop},
-        {"commission-too-little", "CommissionAddition", shop, {}, {}, paying(5.0)},
-        {"properties", properties, shop},
-        {"properties-no-directory", properties, shop, {{type("lePathACDialog", "/нет/такого/каталога")}}},
-        {"properties-refused", properties, shop, {{press("pbtnOk")}}, {}, failing("setSettings", Refusal)},
+        {"confirmation-card", "ConfirmPayment", {}, protocol(0), refund},
+        {"confirmation-services", "ConfirmPayment"},
+        {"confirmation-long", "ConfirmPayment", {}, {}, longAccount},
+        {"confirmation-failed", "ConfirmPayment", {}, {}, failing("getSum", throwing)},
+        {"select-operator", "SelectOperator"},
+        {"commission", "CommissionAddition"},
+        {"commission-too-little", "CommissionAddition", {}, {}, paying(5.0)},
+        {"properties", properties},
+        {"properties-no-directory", properties, {{type("lePathACDialog", "/нет/такого/каталога")}}},
+        {"properties-refused", properties, {{press("pbtnOk")}}, {}, failing("setSettings", Refusal)},
         {"properties-long",
          properties,
-         shop,
          {{press("pbtnOk")}},
          {},
          failing("setSettings", {Fault::Refuse, 12, longText(), {}})},
-        {"slip", properties, shop, {open("pbtnSlip")}},
-        {"operators", properties, shop, {open("pbtnOperators"), {choose("lwOperators", "Интернет «Образец»")}}},
+        {"slip", properties, {open("pbtnSlip")}},
+        {"operators", properties, {open("pbtnOperators"), {choose("lwOperators", "Интернет «Образец»")}}},
         {"operator",
          properties,
-         shop,
          {open("pbtnOperators"), {choose("lwOperators", "Интернет «Образец»")}, open("pbtnEdit")}},
-        {"operator-new", properties, shop, {open("pbtnOperators"), open("pbtnAdd")}},
-        {"cyberplat", properties, shop, {open("pbtnSettingsButton")}},
-        {"cyberplat-no-password", properties, shop, {open("pbtnSettingsButton"), {type("leKeyLoadPwd", QString())}}},
-        protocolScene("arcus2", 6),
-        protocolScene("arcus2-same-codes", 6, {{type("spinOpcodePrintJournal", "2")}}),
-        protocolScene("lumipay-inpas", 8),
-        protocolScene("lumipay-arcus2", 9),
-        protocolScene("lumipay-sberbank", 10),
-        sberbankScene("serial", "1"),
-        sberbankScene("file", "TTY"),
-        sberbankScene("network", "TCPIP"),
-        sberbankScene("usb", "USB"),
-        protocolScene("terminal-inpas", 12),
-        protocolScene("terminal-arcus2", 13),
-        {"about", properties, shop, {open("pbtnAbout")}},
+        {"operator-new", properties, {open("pbtnOperators"), open("pbtnAdd")}},
+        protocolScene(2, "-no-password", {{type("leKeyLoadPwd", QString())}}),
+        protocolScene(6, "-same-codes", {{type("spinOpcodePrintJournal", "2")}}),
+        portScene("-file", "TTY"),
+        portScene("-network", "TCPIP"),
+        portScene("-usb", "USB"),
+        {"about", properties, {open("pbtnAbout")}},
     };
+}
+
+/// What all sample shops have, as one that sells services and whose terminals have COM ports.
+SettingsDocument shop()
+{
+    SettingsDocument settings(SimulatedDriver::sample("sberbank"));
+    for (const char *sample : {"cyberplat", "arcus2"}) {
+        const QList<SettingsEntry> entries = SettingsDocument(SimulatedDriver::sample(sample)).entries();
+        for (const SettingsEntry &entry : entries) {
+            settings.setValue(entry.name, entry.text);
+        }
+    }
+    settings.setValue("Protocol", "2");
+    return settings;
 }
 
 void prepareDriver(SimulatedDriver &driver, const Scene &scene, const Operation &operation)
 {
-    SettingsDocument settings(SimulatedDriver::sample(scene.sample));
+    SettingsDocument settings = shop();
     for (auto tweak = scene.settings.constBegin(); tweak != scene.settings.constEnd(); ++tweak) {
         settings.setValue(tweak.key(), tweak.value());
     }
@@ -171,6 +175,18 @@ void waitForLayout(const QWidget &window)
     }
 }
 
+/// `front` is for a name that has nothing before its hyphen.
+QString nameOf(const Scene &scene, const QString &front)
+{
+    return scene.name.isEmpty() || scene.name.startsWith('-') ? front + scene.name : scene.name;
+}
+
+/// "arcus2" for Arcus2SettingsDialog.
+QString formName(const QWidget *window)
+{
+    return QString::fromLatin1(window->metaObject()->className()).toLower().remove("settingsdialog");
+}
+
 /// Plays the scene up to its last window, which `visit` gets. Empty when that came, otherwise the reason.
 QString visitScene(const Scene &scene, const LibraryPaycard &library, const Operation &operation,
                    const WindowVisitor &visit)
@@ -197,12 +213,33 @@ QString visitScene(const Scene &scene, const LibraryPaycard &library, const Oper
     steps.emplace_back([&](QWidget *window) {
         expectAnotherThan(opener, window);
         waitForLayout(*window);
-        visit(scene.name, window);
+        visit(nameOf(scene, formName(window)), window);
         visited = true;
     });
     ModalScript script(std::move(steps));
     script.run([&] { return library.call(scene.function, &driver, nullptr); });
     return visited ? QString() : script.problem();
+}
+
+/// One for each protocol that has settings of its own: that is what the properties enable the button for. Empty when
+/// they did not come.
+QList<Scene> protocolScenes(const LibraryPaycard &library)
+{
+    SimulatedDriver driver;
+    QList<Scene> found;
+    const auto look = [&](QWidget *properties) {
+        QComboBox *protocols = properties->findChild<QComboBox *>("cmbProtocol");
+        const QWidget *button = properties->findChild<QWidget *>("pbtnSettingsButton");
+        for (int i = 0; protocols && button && i < protocols->count(); ++i) {
+            protocols->setCurrentIndex(i);
+            if (button->isEnabled()) {
+                found += protocolScene(protocols->itemData(i).toInt());
+            }
+        }
+        properties->close();
+    };
+    ModalScript({look}).run([&] { return library.call("ShowProperties", &driver, nullptr); });
+    return found;
 }
 
 } // namespace
@@ -211,12 +248,16 @@ QMap<QString, QString> visitWindows(const LibraryPaycard &library, const Operati
                                     const WindowVisitor &visit)
 {
     QMap<QString, QString> missing;
-    const QList<Scene> all = scenes();
+    const QList<Scene> protocols = protocolScenes(library);
+    const QList<Scene> all = scenes() + protocols;
     for (const Scene &scene : all) {
         const QString reason = visitScene(scene, library, operation, visit);
         if (!reason.isEmpty()) {
-            missing.insert(scene.name, reason);
+            missing.insert(nameOf(scene, "protocol-" + scene.settings.value("Protocol")), reason);
         }
+    }
+    if (protocols.isEmpty()) {
+        missing.insert("protocols", QStringLiteral("ни у одного протокола нет своих параметров"));
     }
     return missing;
 }

@@ -20,14 +20,14 @@ ErrorLine::ErrorLine(QWidget *parent) : QLabel(parent)
 
 void ErrorLine::setPrefix(const QString &text)
 {
-    prefix = text;
+    beforeError = text;
 }
 
 void ErrorLine::setError(const QString &error)
 {
     const QString before = text();
     setTextFormat(Qt::PlainText);
-    ShownText::show(this, error.isEmpty() ? QString() : prefix + error);
+    ShownText::show(this, error.isEmpty() ? QString() : beforeError + error);
     if (window()->isVisible()) {
         fitForm(*window());
         if (text() != before && !text().isEmpty()) {

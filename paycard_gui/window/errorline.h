@@ -8,11 +8,13 @@
 class ErrorLine : public QLabel
 {
     Q_OBJECT
+    /// What stands before each error.
+    Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
 
 public:
     explicit ErrorLine(QWidget *parent = nullptr);
 
-    /// What stands before each error.
+    const QString &prefix() const { return beforeError; }
     void setPrefix(const QString &text);
 
     /// Shows the error, or none. The window grows as high as it then needs to be; in one that is open a new error is
@@ -26,5 +28,5 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QString prefix;
+    QString beforeError;
 };

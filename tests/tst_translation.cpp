@@ -111,8 +111,9 @@ void TranslationTest::lastSemicolon()
 {
     TerseTranslator terse;
     QCoreApplication::installTranslator(&terse);
-    Register shop;
+    Register shop({{"Operators", 1}, {"Operator0", document({{"MaxSum", 1000}})}});
     shop.driver.operation.sum = 100;
+    shop.driver.operation.operatorIndex = 0;
     const auto last = [](QWidget *window) { child<QComboBox>(window, "cmbCommissionAddition")->setCurrentIndex(1); };
     QCOMPARE(shop.run(CommissionAddition, {last, press("pbtnOk")}), 2);
     QCoreApplication::removeTranslator(&terse);

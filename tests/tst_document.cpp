@@ -249,6 +249,10 @@ void DocumentTest::hostile_data()
     QTest::newRow("one entity in a large document")
         << "<!DOCTYPE r [<!ENTITY e 'E'>]><r>" + value.arg("&e;" + QString("t").repeated(99999)) + "</r>"
         << (readsEntities ? 100000 : -1);
+    QTest::newRow("entities beside the values")
+        << "<!DOCTYPE r [<!ENTITY a '" + QString("a").repeated(131000) + "'>]><r>" + QString("&a;").repeated(510) +
+               QString("t").repeated(400000) + value.arg("1") + "</r>"
+        << -1;
     QTest::newRow("many entities in a name")
         << "<!DOCTYPE r [<!ENTITY a '" + QString("a").repeated(4000) + "'>]><r><value name='" +
                QString("&a;").repeated(20000) + "'/>" + value.arg("1") + "</r>"

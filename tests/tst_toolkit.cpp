@@ -3,6 +3,7 @@
 #include "common/nohelpbuttondialogs.h"
 
 #include "register.h"
+#include "toolkit/windows.h"
 
 #include <QInputDialog>
 #include <QLabel>
@@ -144,6 +145,7 @@ void ToolkitTest::messageBoxes()
             shown = QString("%1|%2|%3").arg(box->windowTitle(), box->text()).arg(int(box->standardButtons()));
             isDefault = box->defaultButton() == box->button(button);
             QVERIFY(!hasHelpButton(box));
+            QVERIFY(box->height() <= Toolkit::availableGeometry(*box).height());
             button == QMessageBox::NoButton ? void(box->close()) : box->button(button)->click();
         }});
         return script.run(ask);

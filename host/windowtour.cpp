@@ -111,6 +111,7 @@ QList<Scene> scenes()
          {{press("pbtnOk")}},
          {},
          failing("setSettings", {Fault::Refuse, 12, longText(), {}})},
+        {"properties-unreadable", properties, {}, {}, [](SimulatedDriver &driver) { driver.damageSettings("<"); }},
         {"slip", properties, {open("pbtnSlip")}},
         {"operators", properties, {open("pbtnOperators"), {choose("lwOperators", "Интернет «Образец»")}}},
         {"operator",

@@ -231,6 +231,14 @@ void fitForm(QWidget &window)
     if (!layout) {
         return;
     }
+    // What the window's widgets have become reaches the layouts around them, the innermost first, when it is shown. It
+    // is measured now.
+    const QList<QWidget *> widgets = window.findChildren<QWidget *>();
+    for (auto widget = widgets.end(); widget != widgets.begin();) {
+        if (QLayout *nested = (*--widget)->layout()) {
+            nested->activate();
+        }
+    }
     layout->activate();
     const QSize room = roomFor(window);
     // The title between the buttons of its bar. Its font, often a bold one, is a quarter wider at most.
